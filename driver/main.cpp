@@ -1,0 +1,26 @@
+// contarello-driver: the program's screens driven by JSON lines on standard input, one answer a line
+// on standard output. Runs without a display.
+
+#include "driver/engine.h"
+#include "shell/qtservices.h"
+
+#include <QApplication>
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    contarello::PrepareToolkit(application);
+    contarello::DriverEngine engine(QCoreApplication::applicationDirPath());
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
+        const QByteArray answer = engine.executeLine(QByteArray::fromStdString(line));
+        std::fwrite(answer.constData(), 1, size_t(answer.size()), stdout);
+        std::fputc('\n', stdout);
+        std::fflush(stdout);
+    }
+    return 0;
+}

@@ -1,0 +1,404 @@
+#pragma once
+// A thin layer that gives Qt widgets the shape the screens are written in: geometry in twips,
+// captions kept to the blank, handlers as plain functions, control arrays named Name(i), and every
+// control findable by its name so that the driver and the tests need no hooks of their own.
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QFont>
+#include <QFrame>
+#include <QGroupBox>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace contarello {
+
+struct Program;
+struct Modulo1;
+class Form;
+
+constexpr int kTwipsPerPixel = 15;
+inline int tw(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
+
+QFont Arial(double points, bool bold = true);
+QFont SansSerif(double points, bool bold = false); // "MS Sans Serif", mapped to Liberation Sans
+QString colourName(QColor c);
+
+enum MouseButton { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
+
+// What every named control shares. The widget keeps the look; this keeps the names and handlers.
+class Control {
+public:
+    virtual ~Control() = default;
+    virtual QString kind() const = 0;
+    virtual QObject* object() = 0;
+    // nullptr for menu items.
+    virtual QWidget* widget() { return qobject_cast<QWidget*>(object()); }
+    // Adds what fits the kind (caption, text, value...) to a dump.
+    virtual void describe(QJsonObject& out) const = 0;
+
+    QString name() const { return const_cast<Control*>(this)->object()->objectName(); }
+    // The properties as the program set them, not whether the window shows. Screens set them
+    // through the widget's own setVisible and setEnabled.
+    virtual bool Visible() const;
+    virtual bool Enabled() const;
+
+    // A click as the user makes it; false if the control takes no clicks.
+    virtual bool userClick() { return false; }
+
+    // Any control with a DragDrop handler is a drop target for labels with DragMode 1.
+    std::function<void(Control* source)> DragDrop;
+    void acceptDrops();
+
+    // BackColor, when the program sets it.
+    virtual void setBackColor(QColor c);
+    QColor BackColor() const { return backColor_; }
+    bool hasBackColor() const { return backColor_.isValid(); }
+
+protected:
+    void describeCommon(QJsonObject& out) const;
+    QColor backColor_;
+};
+
+class Label : public QLabel, public Control {
+    Q_OBJECT
+public:
+    explicit Label(QWidget* parent);
+    QString kind() const override { return QStringLiteral("label"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    bool userClick() override;
+
+    QString Caption() const { return caption_; }
+    void setCaption(const QString& c);
+    int DragMode() const { return dragMode_; }
+    void setDragMode(int m) { dragMode_ = m; }
+
+    std::function<void()> Click;
+
+protected:
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+
+private:
+    QString caption_;
+    int dragMode_ = 0;
+    QPoint pressPos_;
+    bool pressed_ = false;
+};
+
+class CommandButton : public QAbstractButton, public Control {
+    Q_OBJECT
+public:
+    explicit CommandButton(QWidget* parent);
+    QString kind() const override { return QStringLiteral("button"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    bool userClick() override;
+
+    QString Caption() const { return caption_; }
+    void setCaption(const QString& c);
+    void setPicture(const QPixmap& p);
+
+    std::function<void()> Click;
+    // Button as 1 left, 2 right, 4 middle.
+    std::function<void(int button, int shift, int x, int y)> MouseDown;
+
+    QSize sizeHint() const override { return size(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
+
+private:
+    QString caption_;
+    QPixmap picture_;
+};
+
+class TextBox : public QLineEdit, public Control {
+    Q_OBJECT
+public:
+    explicit TextBox(QWidget* parent);
+    QString kind() const override { return QStringLiteral("textbox"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+
+    QString Text() const { return text(); }
+    void setText(const QString& t) { QLineEdit::setText(t); }
+    void SetFocus();
+    void setFontSize(double points);
+
+    // The ANSI code of the key typed; the handler may change it, and 0 drops the key.
+    std::function<void(int& keyAscii)> KeyPress;
+    // Taken on release, once even when the key is held down. 13 is Enter.
+    std::function<void(int keyCode, int shift)> KeyUp;
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+    void keyReleaseEvent(QKeyEvent* e) override;
+
+private:
+    bool fontSizeSet_ = false;
+};
+
+// Several lines with both scroll bars; its text keeps CR LF line ends as the program writes them.
+class MultiLineTextBox : public QPlainTextEdit, public Control {
+    Q_OBJECT
+public:
+    explicit MultiLineTextBox(QWidget* parent);
+    QString kind() const override { return QStringLiteral("textbox"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+
+    QString Text() const;
+    void setText(const QString& t);
+    void setFontSize(double points);
+    void SetFocus();
+    int MaxLength = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    bool fontSizeSet_ = false;
+};
+
+class OptionButton : public QRadioButton, public Control {
+    Q_OBJECT
+public:
+    explicit OptionButton(QWidget* parent);
+    QString kind() const override { return QStringLiteral("option"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    bool userClick() override;
+
+    QString Caption() const { return text(); }
+    void setCaption(const QString& c) { setText(c); }
+    bool Value() const { return isChecked(); }
+    // Setting it True runs Click, as a choice made by the user does.
+    void setValue(bool v);
+    void setBackColor(QColor c) override;
+
+    // Runs on every click of the user, on the option already chosen too: a child who wants to keep
+    // the present choice must be able to say so.
+    std::function<void()> Click;
+};
+
+class Frame : public QGroupBox, public Control {
+    Q_OBJECT
+public:
+    explicit Frame(QWidget* parent);
+    QString kind() const override { return QStringLiteral("frame"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    QString Caption() const { return title(); }
+    void setCaption(const QString& c) { setTitle(c); }
+    void setLeft(int twips);
+    void setTop(int twips);
+};
+
+// A rectangle, rounded rectangle or circle filled with one colour; clickable where a screen wants.
+class Shape : public QWidget, public Control {
+    Q_OBJECT
+public:
+    enum Kind { Rectangle, Oval, Circle, RoundedRectangle };
+    Shape(QWidget* parent, Kind k, QColor fill, QColor border = Qt::black);
+    QString kind() const override { return QStringLiteral("shape"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    bool userClick() override;
+    void setFillColor(QColor c);
+    QColor FillColor() const { return fill_; }
+    std::function<void()> Click;
+    std::function<void(int button, int shift, int x, int y)> MouseDown;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+
+private:
+    Kind shape_;
+    QColor fill_, border_;
+};
+
+class Image : public QLabel, public Control {
+    Q_OBJECT
+public:
+    explicit Image(QWidget* parent) : QLabel(parent) {}
+    QString kind() const override { return QStringLiteral("image"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override { describeCommon(out); }
+};
+
+class Line : public QWidget, public Control {
+    Q_OBJECT
+public:
+    // Endpoints in twips, relative to the parent.
+    Line(QWidget* parent, int x1, int y1, int x2, int y2, QColor colour, int widthPx = 1);
+    QString kind() const override { return QStringLiteral("line"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    QColor BorderColor() const { return colour_; }
+    void setBorderColor(QColor c);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    QPoint a_, b_;
+    QColor colour_;
+    int width_;
+};
+
+class ListBox : public QListWidget, public Control {
+    Q_OBJECT
+public:
+    ListBox(QWidget* parent, bool sorted);
+    QString kind() const override { return QStringLiteral("listbox"); }
+    QObject* object() override { return this; }
+    void describe(QJsonObject& out) const override;
+    void AddItem(const QString& s);
+    void Clear() { clear(); }
+    int ListIndex() const { return currentRow(); }
+    void setListIndex(int i) { setCurrentRow(i); }
+    QString Text() const;
+    int ListCount() const { return count(); }
+    QString List(int i) const;
+
+private:
+    bool sorted_;
+};
+
+class MenuItem : public QObject, public Control {
+    Q_OBJECT
+public:
+    MenuItem(QObject* parent, QAction* action);
+    QString kind() const override { return QStringLiteral("menu"); }
+    QObject* object() override { return this; }
+    QWidget* widget() override { return nullptr; }
+    void describe(QJsonObject& out) const override;
+    bool userClick() override;
+    bool Visible() const override;
+    bool Enabled() const override;
+    void setVisible(bool v);
+    void setEnabled(bool e);
+
+    QString Caption() const { return caption_; }
+    void setCaption(const QString& c);
+    bool Checked() const;
+    void setChecked(bool c);
+    QAction* action() const { return action_; }
+    QMenu* submenu(); // made on first use: the item then opens a menu instead of acting
+
+    std::function<void()> Click;
+
+private:
+    QAction* action_;
+    QMenu* submenu_ = nullptr;
+    QString caption_;
+};
+
+// A control array: one name, elements by index, named Name(i).
+template <class T> class ControlArray {
+public:
+    T* operator()(int i) const {
+        auto it = items_.find(i);
+        return it == items_.end() ? nullptr : it->second;
+    }
+    void set(int i, T* c) { items_[i] = c; }
+    auto begin() const { return items_.begin(); }
+    auto end() const { return items_.end(); }
+    int size() const { return int(items_.size()); }
+
+private:
+    std::map<int, T*> items_;
+};
+
+// A screen. Load, Activate and Unload are run by the navigator; the controls are made in the
+// constructor, as they stand when the screen opens.
+class Form : public QWidget {
+    Q_OBJECT
+public:
+    Form(Program& app, const QString& name, int widthTwips, int heightTwips);
+    ~Form() override;
+
+    virtual void Load() {}
+    virtual void Activate() {}
+    virtual void Unload() {}
+    // Extra private state for the driver's dump, where it helps a test.
+    virtual QJsonObject fields() const { return {}; }
+
+    QString name() const { return objectName(); }
+    void setBackColor(QColor c);
+    QColor BackColor() const { return backColor_; }
+    // Only a screen with a title bar shows its caption.
+    QString Caption() const { return caption_; }
+    void setCaption(const QString& c);
+    void setTitleBar(bool on);
+
+    Control* find(const QString& name) const;
+    const std::vector<Control*>& controls() const { return controls_; }
+
+    // The area under the menu bar, where controls stand.
+    QWidget* client() const { return client_; }
+
+    // Navigation as the screens say it: show the next screen, unload this one.
+    void Show(const QString& formName);
+    void UnloadMe();
+
+    Program& app;
+    Modulo1& g;
+
+protected:
+    // Controls are made through these, so that each is named, placed and known to the form.
+    Label* label(const QString& name, const QString& caption, int left, int top, int width, int height,
+                 const QFont& font, QWidget* parent = nullptr);
+    CommandButton* button(const QString& name, const QString& caption, int left, int top, int width, int height,
+                          const QFont& font, QWidget* parent = nullptr);
+    TextBox* textBox(const QString& name, int left, int top, int width, int height, const QFont& font,
+                     QWidget* parent = nullptr);
+    OptionButton* option(const QString& name, const QString& caption, int left, int top, int width, int height,
+                         const QFont& font, QWidget* parent = nullptr);
+    Frame* frame(const QString& name, const QString& caption, int left, int top, int width, int height,
+                 const QFont& font, QWidget* parent = nullptr);
+    // A menu item on the bar, or in the submenu of parentItem; before puts it ahead of that item.
+    MenuItem* menu(const QString& name, const QString& caption, MenuItem* parentItem = nullptr,
+                   MenuItem* before = nullptr);
+    // Any other control: name it, place it in twips, and make it known.
+    template <class T> T* adopt(T* c, const QString& name, int left, int top, int width, int height) {
+        registerControl(c, name);
+        c->setGeometry(tw(left), tw(top), tw(width), tw(height));
+        return c;
+    }
+    void registerControl(Control* c, const QString& name);
+    static QString indexed(const QString& name, int i) { return name + u'(' + QString::number(i) + u')'; }
+
+    bool event(QEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
+
+private:
+    QWidget* client_;
+    QMenuBar* menuBar_ = nullptr;
+    std::vector<Control*> controls_;
+    std::map<QString, Control*> byName_;
+    QColor backColor_;
+    QString caption_;
+    int widthTwips_, heightTwips_;
+};
+
+} // namespace contarello

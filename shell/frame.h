@@ -1,0 +1,103 @@
+#pragma once
+// The frame every exercise screen stands on: the two counters, the two faces, the "avanti" button,
+// the four menu items, the random background and the limit panel. A screen adds its own controls
+// and says how it draws a question; the rest is here once.
+
+#include "shell/colori.h"
+#include "shell/forms.h"
+
+namespace contarello {
+
+// Names of the frame's menu items; a few screens spell one differently.
+struct FrameMenuNames {
+    const char* azzera = "MenuAzzera";
+    const char* stampa = "mnuStampa";
+    const char* informazioni = "MenuInformazioni";
+    const char* esci = "mnuEsci";
+};
+
+// The fonts of the question and of the answer box.
+struct QuestionLook {
+    QFont numero = Arial(18);
+    QFont testo = Arial(48);
+};
+
+class ExerciseForm : public Form {
+    Q_OBJECT
+public:
+    using MenuNames = FrameMenuNames;
+
+    ExerciseForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda,
+                 int widthTwips = 9495, int heightTwips = 6510, MenuNames names = {});
+
+    Variante variante() const { return variante_; }
+    int16_t numeroScheda() const { return numeroScheda_; }
+
+protected:
+    // Makes the next question.
+    virtual void NuovaDomanda() = 0;
+    virtual void BottoneAvanti_Click() {}
+    // Sets this screen's worksheet and shows the worksheet screen over it.
+    virtual void mnuStampa_Click();
+
+    void CaricaColori() { contarello::CaricaColori(*this, variante_); }
+    // Both counters to 0, as the screen opens and as "Azzera conteggio" does.
+    void AzzeraConteggio();
+    // The smiling face, one more right answer, a cheerful sound, the counter written.
+    void RispostaEsatta();
+    // The sad face, one more wrong answer, the gentle sound, the counter written.
+    void RispostaErrata();
+
+    // The limit panel, opened by a menu item of the given name; its options set the limit from 19
+    // to 99 and draw a new question.
+    void AggiungiCorniceNumeroMassimo(const QString& menuName, const QString& menuCaption,
+                                      MenuItem* before = nullptr);
+
+    Label* Label1;
+    Label* Label2;
+    Label* EtichettaEsatti;
+    Label* EtichettaErrati;
+    CommandButton* ComandoIconaSi;
+    CommandButton* ComandoIconaNo;
+    CommandButton* BottoneAvanti;
+    MenuItem* MenuAzzera;
+    MenuItem* mnuStampa;
+    MenuItem* MenuInformazioni;
+    MenuItem* mnuEsci;
+    Frame* CorniceNumeroMassimo = nullptr;
+    ControlArray<OptionButton> OpzioneNumeroMassimo;
+
+private:
+    Variante variante_;
+    int16_t numeroScheda_;
+};
+
+// The screens that ask a question in EtichettaNumero and take the answer typed in Text1 on Enter:
+// counters set in Load, the question drawn in Activate.
+class QuestionForm : public ExerciseForm {
+    Q_OBJECT
+public:
+    using Look = QuestionLook;
+    QuestionForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda, Look look = {},
+                 MenuNames names = {});
+
+    void Load() override;
+    void Activate() override;
+
+protected:
+    void BottoneAvanti_Click() override;
+    // Enter released on a text that isn't empty: the digits of the text against NumeroEsatto.
+    virtual void Text1_KeyUp(int keyCode, int shift);
+    // What a right answer shows while the screen waits for "avanti": the answer after the question.
+    virtual void MostraRispostaEsatta();
+    // Empties the box, writes the question and gives the box the focus when it can take it.
+    void ScriviDomanda(const QString& caption);
+
+    Label* EtichettaNumero;
+    TextBox* Text1;
+};
+
+// The digits of a text in their order, everything else dropped.
+QString FiltroCifre(const QString& text);
+
+} // namespace contarello

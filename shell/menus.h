@@ -1,0 +1,71 @@
+#pragma once
+// The start screen and the three menus that lead to every exercise.
+
+#include "shell/forms.h"
+
+#include <memory>
+
+namespace contarello {
+
+class FormAvvio : public Form {
+    Q_OBJECT
+public:
+    explicit FormAvvio(Program& app);
+    void Load() override;
+
+private:
+    ControlArray<Label> Label2;
+    CommandButton* BottoneAvvio;
+};
+
+class FormMenu : public Form {
+    Q_OBJECT
+public:
+    explicit FormMenu(Program& app);
+    void Load() override;
+
+private:
+    void Command4_Click();
+    ControlArray<OptionButton> Option1;
+};
+
+// One button of an exercise menu: the control, its caption exactly, the screen it opens, and where
+// it stands (column from 0, row from 0).
+struct VoceMenu {
+    const char* control;
+    const char* caption;
+    const char* form;
+    int column;
+    int row;
+};
+
+struct Intestazione {
+    const char* control;
+    const char* caption;
+    int left, top, width;
+};
+
+// FormMenuNumeri and FormMenuGrafici: buttons in columns, each opening its screen; one table each.
+class ExerciseMenuForm : public Form {
+    Q_OBJECT
+public:
+    struct Layout {
+        const char* name;
+        int width, height;
+        const VoceMenu* voci;
+        int nVoci;
+        const Intestazione* intestazioni;
+        int nIntestazioni;
+        int firstTop; // where row 0 stands, in twips
+        int command1Column, command1Top;
+    };
+    ExerciseMenuForm(Program& app, const Layout& layout);
+    void Load() override;
+};
+
+std::unique_ptr<Form> MakeFormAvvio(Program& app);
+std::unique_ptr<Form> MakeFormMenu(Program& app);
+std::unique_ptr<Form> MakeFormMenuNumeri(Program& app);
+std::unique_ptr<Form> MakeFormMenuGrafici(Program& app);
+
+} // namespace contarello

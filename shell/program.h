@@ -1,0 +1,43 @@
+#pragma once
+// What the whole program shares: the variables, the services and the navigator, handed to every
+// screen; and the routines every screen may call.
+
+#include "shell/globals.h"
+#include "shell/navigator.h"
+#include "shell/services.h"
+
+#include <QString>
+
+namespace contarello {
+
+struct Program {
+    Program(Random& r, Sound& s, Dialogs& d, Printer& p, QString path, std::vector<FormEntry> forms,
+            EventLog* events = nullptr)
+        : rnd(r), sound(s), dialogs(d), printer(p), appPath(std::move(path)), log(events),
+          nav(*this, std::move(forms), events) {}
+
+    Modulo1 g;
+    Random& rnd;
+    Sound& sound;
+    Dialogs& dialogs;
+    Printer& printer;
+    QString appPath; // the program's folder, where suoni/ lies
+    EventLog* log;   // nullptr in the real program
+    Navigator nav;
+};
+
+inline const QString kTitolo = QStringLiteral("Contarello");
+
+// The entry routine: seeds the random sequence, sets the two settings and shows the start screen.
+void Main(Program& app);
+void MostraInformazioni(Program& app);
+void ChiediUscita(Program& app);
+// Turns a to z into capitals, in the variable too; anything else passes unchanged.
+int FiltroMaiuscole(int& keyAscii);
+// One of the four cheerful sounds; takes one draw of the random sequence.
+void SuonoEsatto(Program& app);
+void SuonoErrato(Program& app);
+// The step sound of the screens that build an answer in stages.
+void suona(Program& app);
+
+} // namespace contarello

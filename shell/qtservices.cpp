@@ -1,0 +1,124 @@
+#include "shell/qtservices.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSoundEffect>
+#include <QStyleFactory>
+#include <QTranslator>
+#include <QUrl>
+#include <chrono>
+
+namespace contarello {
+
+void PrepareToolkit(QApplication& app) {
+    // The screens are laid out for Arial; Liberation Sans has its metrics. The printout's
+    // "MS Sans Serif" has no alias of its own.
+    QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+    QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
+    auto* qt = new QTranslator(&app);
+    if (qt->load(QLocale(QLocale::Italian, QLocale::Italy), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qt);
+}
+
+double QtRandom::Rnd() { return std::generate_canonical<double, 32>(gen_); }
+
+void QtRandom::Randomize() {
+    gen_.seed(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
+}
+
+QtSound::QtSound() = default;
+
+QtSound::~QtSound() {
+    for (auto& [path, effect] : effects_) delete effect;
+}
+
+void QtSound::play(const QString& path) {
+    if (playing_) playing_->stop();
+    playing_ = nullptr;
+    if (!QFileInfo::exists(path)) return; // a missing sound is silence
+    QSoundEffect*& effect = effects_[path];
+    if (!effect) {
+        effect = new QSoundEffect;
+        effect->setSource(QUrl::fromLocalFile(path));
+    }
+    effect->play();
+    playing_ = effect;
+}
+
+int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(title);
+    box.setText(text);
+    switch (style & 0xF0) {
+    case vbCritical: box.setIcon(QMessageBox::Critical); break;
+    case 32: box.setIcon(QMessageBox::Question); break;
+    case 48: box.setIcon(QMessageBox::Warning); break;
+    case vbInformation: box.setIcon(QMessageBox::Information); break;
+    default: break;
+    }
+    if ((style & 0xF) == 4) {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        return box.exec() == QMessageBox::Yes ? vbYes : vbNo;
+    }
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return vbOK;
+}
+
+QString QtDialogs::InputBox(const QString& prompt, const QString& title, const QString& defaultText) {
+    bool ok = false;
+    const QString text =
+        QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal, defaultText, &ok);
+    return ok ? text : QString();
+}
+
+void QtPrinter::endDoc() {
+    const QString text = std::exchange(text_, QString());
+    if (QPrinterInfo::defaultPrinter().isNull()) return;
+    QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    QPainter p;
+    if (!p.begin(&printer)) return;
+    QFont f(font_);
+    f.setPointSizeF(size_);
+    p.setFont(f);
+    const int lineHeight = p.fontMetrics().lineSpacing();
+    const int pageHeight = printer.pageLayout().paintRectPixels(printer.resolution()).height();
+    int y = p.fontMetrics().ascent();
+    QStringList lines = text.split(QStringLiteral("\r\n"));
+    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+    for (const QString& line : lines) {
+        if (y > pageHeight) {
+            if (!printer.newPage()) break;
+            y = p.fontMetrics().ascent();
+        }
+        QString shown = line;
+        shown.remove(u'\n').remove(u'\r');
+        p.drawText(0, y, shown);
+        y += lineHeight;
+    }
+    p.end();
+}
+
+void QtPrinter::printForm(QWidget& form, const QString&) {
+    if (QPrinterInfo::defaultPrinter().isNull()) return;
+    const QPixmap image = form.grab();
+    QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    QPainter p;
+    if (!p.begin(&printer)) return;
+    const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+    const QSize size = image.size().scaled(page.size(), Qt::KeepAspectRatio);
+    p.drawPixmap(QRect(QPoint(0, 0), size), image);
+    p.end();
+}
+
+} // namespace contarello

@@ -1,0 +1,59 @@
+#pragma once
+// The real services: the clock-seeded random sequence, sounds through Qt Multimedia, Qt's message
+// and input boxes, and the system's default printer.
+
+#include "shell/services.h"
+
+#include <QObject>
+#include <map>
+#include <memory>
+
+class QApplication;
+class QSoundEffect;
+
+namespace contarello {
+
+// Fonts, style and the Italian texts of Qt's own boxes, once at start.
+void PrepareToolkit(QApplication& app);
+
+class QtRandom : public Random {
+public:
+    double Rnd() override;
+    void Randomize() override;
+
+private:
+    std::mt19937 gen_{1};
+};
+
+class QtSound : public Sound {
+public:
+    QtSound();
+    ~QtSound() override;
+    void play(const QString& path) override;
+
+private:
+    std::map<QString, QSoundEffect*> effects_;
+    QSoundEffect* playing_ = nullptr;
+};
+
+class QtDialogs : public Dialogs {
+public:
+    int MsgBox(const QString& text, int style, const QString& title) override;
+    QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
+};
+
+class QtPrinter : public Printer {
+public:
+    void setFontName(const QString& name) override { font_ = name; }
+    void setFontSize(double points) override { size_ = points; }
+    void print(const QString& text) override { text_ += text; }
+    void endDoc() override;
+    void printForm(QWidget& form, const QString& formName) override;
+
+private:
+    QString font_ = QStringLiteral("Arial");
+    double size_ = 12;
+    QString text_;
+};
+
+} // namespace contarello

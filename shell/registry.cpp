@@ -1,0 +1,29 @@
+#include "shell/registry.h"
+#include "numbers/stepping.h"
+#include "shell/menus.h"
+
+namespace contarello {
+
+std::vector<FormEntry> FormTable() {
+    return {
+        {"FormAvvio", MakeFormAvvio},
+        {"FormMenu", MakeFormMenu},
+        {"FormMenuNumeri", MakeFormMenuNumeri},
+        {"FormMenuGrafici", MakeFormMenuGrafici},
+        // stepping: +1, +10, +units, +tens and their opposites
+        {"Form1", MakeStepForm<0>},
+        {"Form10", MakeStepForm<1>},
+        {"Form100", MakeStepForm<2>},
+        {"Form1a", MakeStepForm<3>},
+        {"Form10a", MakeStepForm<4>},
+        {"Form100bis", MakeStepForm<5>},
+        {"Form1ma", MakeStepForm<6>},
+        {"Form10m", MakeStepForm<7>},
+        {"Form100m", MakeStepForm<8>},
+        {"Form1m", MakeStepForm<9>},
+        {"Form10ma", MakeStepForm<10>},
+        {"Form100ma", MakeStepForm<11>},
+    };
+}
+
+} // namespace contarello

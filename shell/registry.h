@@ -1,0 +1,12 @@
+#pragma once
+// Every screen of the program by name, with the function that makes it.
+
+#include "shell/navigator.h"
+
+#include <vector>
+
+namespace contarello {
+
+std::vector<FormEntry> FormTable();
+
+} // namespace contarello

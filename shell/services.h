@@ -1,0 +1,122 @@
+#pragma once
+// The four services the screens use: the random sequence, the sounds, the message and input boxes
+// and the printer. main builds the real ones; the driver and the tests build scripted ones that
+// record every call.
+
+#include <QJsonObject>
+#include <QString>
+#include <deque>
+#include <random>
+#include <vector>
+
+class QWidget;
+
+namespace contarello {
+
+// What happened, in order, for the driver's dump and the tests. The real program keeps none.
+class EventLog {
+public:
+    void add(QJsonObject e) { events_.push_back(std::move(e)); }
+    std::vector<QJsonObject> take() { return std::exchange(events_, {}); }
+    const std::vector<QJsonObject>& peek() const { return events_; }
+
+private:
+    std::vector<QJsonObject> events_;
+};
+
+class Random {
+public:
+    virtual ~Random() = default;
+    // A number in [0, 1). Every draw of the program takes the next one.
+    virtual double Rnd() = 0;
+    // Seeds from the clock.
+    virtual void Randomize() = 0;
+};
+
+class Sound {
+public:
+    virtual ~Sound() = default;
+    // Plays a file without waiting; a new sound replaces the one playing; a missing file is silent.
+    virtual void play(const QString& path) = 0;
+};
+
+enum MsgBoxStyle : int { vbOKOnly = 0, vbCritical = 16, vbYesNoQuestion = 36, vbInformation = 64 };
+enum MsgBoxResult : int { vbOK = 1, vbYes = 6, vbNo = 7 };
+
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual int MsgBox(const QString& text, int style, const QString& title) = 0;
+    // The text typed, or an empty text on Cancel.
+    virtual QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) = 0;
+};
+
+class Printer {
+public:
+    virtual ~Printer() = default;
+    // Every failure is swallowed: with no printer nothing comes out and nothing is said.
+    virtual void setFontName(const QString& name) = 0;
+    virtual void setFontSize(double points) = 0;
+    virtual void print(const QString& text) = 0;
+    virtual void endDoc() = 0;
+    virtual void printForm(QWidget& form, const QString& formName) = 0;
+};
+
+// ---- Scripted services, for the driver and the tests ----
+
+class ScriptedRandom : public Random {
+public:
+    explicit ScriptedRandom(EventLog* log = nullptr, unsigned seed = 1) : log_(log), gen_(seed) {}
+    double Rnd() override;
+    void Randomize() override;
+    void queue(double v) { queued_.push_back(v); }
+    void seed(unsigned s) { gen_.seed(s); }
+    size_t pending() const { return queued_.size(); }
+
+private:
+    EventLog* log_;
+    std::mt19937 gen_;
+    std::deque<double> queued_;
+};
+
+class RecordingSound : public Sound {
+public:
+    RecordingSound(EventLog& log, QString appPath) : log_(log), appPath_(std::move(appPath)) {}
+    void play(const QString& path) override;
+
+private:
+    EventLog& log_;
+    QString appPath_;
+};
+
+class ScriptedDialogs : public Dialogs {
+public:
+    explicit ScriptedDialogs(EventLog& log) : log_(log) {}
+    int MsgBox(const QString& text, int style, const QString& title) override;
+    QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
+    void queueAnswer(int a) { answers_.push_back(a); }
+    void queueText(const QString& t) { texts_.push_back(t); }
+
+private:
+    EventLog& log_;
+    std::deque<int> answers_;
+    std::deque<QString> texts_;
+};
+
+class RecordingPrinter : public Printer {
+public:
+    explicit RecordingPrinter(EventLog& log) : log_(log) {}
+    void setFontName(const QString& name) override { font_ = name; }
+    void setFontSize(double points) override { size_ = points; }
+    void print(const QString& text) override { text_ += text; }
+    void endDoc() override;
+    void printForm(QWidget& form, const QString& formName) override;
+
+private:
+    EventLog& log_;
+    QString font_ = QStringLiteral("Arial");
+    double size_ = 12;
+    QString text_;
+};
+
+} // namespace contarello

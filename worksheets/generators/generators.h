@@ -1,0 +1,33 @@
+#pragma once
+// The text worksheets of formStampa and the line breaker of their printouts. Each generator builds
+// the worksheet and its correction in one pass over the same draws, so a scripted sequence of draws
+// fixes both texts to the last blank.
+
+#include "shell/globals.h"
+#include "shell/services.h"
+
+#include <QString>
+
+namespace contarello {
+
+struct SchedaInput {
+    int NumeroRighe = 5;   // 3,5,10,15,20,25
+    int NumeroColonne = 2; // 1..6
+    QString ordRowLength;  // FormOrd's Label3 caption (FaiScheda4), e.g. "8"; empty if FormOrd isn't loaded
+    QString ordTask;       // FormOrd's window caption (FaiScheda4)
+};
+
+struct Scheda {
+    QString txtCD;   // the worksheet
+    QString TextCor; // its correction
+};
+
+// numero 1..24 selects FaiScheda<numero>; any other value gives two empty texts.
+// Reads g.NumeroMassimo; FaiScheda8 overwrites g.NumeroEsatto; uses g.ParoleNumeri via NumeroInParole.
+Scheda FaiScheda(int numero, const SchedaInput& in, Modulo1& g, Random& rnd);
+
+// Breaks the lines of testo longer than larghezza characters after the last blank that fits, for
+// the printer. The result always ends in CR LF.
+QString AndaACapo(QString testo, int larghezza);
+
+} // namespace contarello
