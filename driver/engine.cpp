@@ -12,9 +12,15 @@ namespace contarello {
 
 namespace {
 
-QJsonObject ok() { return {{"ok", true}}; }
-QJsonObject fail(const QString& why) { return {{"ok", false}, {"error", why}}; }
-QJsonObject ignored(const char* why) { return {{"ok", true}, {"ignored", why}}; }
+QJsonObject ok() {
+    return {{"ok", true}};
+}
+QJsonObject fail(const QString& why) {
+    return {{"ok", false}, {"error", why}};
+}
+QJsonObject ignored(const char* why) {
+    return {{"ok", true}, {"ignored", why}};
+}
 
 // Whether a user could reach the control: it and every container up to the screen shown and enabled.
 const char* unreachable(Control* c, Form* form) {
@@ -46,21 +52,36 @@ Key keyForChar(QChar c) {
 
 Key keyForCode(int code) {
     switch (code) {
-    case 8: return {Qt::Key_Backspace, QStringLiteral("\b")};
-    case 9: return {Qt::Key_Tab, QStringLiteral("\t")};
-    case 13: return {Qt::Key_Return, QStringLiteral("\r")};
-    case 27: return {Qt::Key_Escape, QString(QChar(27))};
-    case 32: return {Qt::Key_Space, QStringLiteral(" ")};
-    case 33: return {Qt::Key_PageUp, {}};
-    case 34: return {Qt::Key_PageDown, {}};
-    case 35: return {Qt::Key_End, {}};
-    case 36: return {Qt::Key_Home, {}};
-    case 37: return {Qt::Key_Left, {}};
-    case 38: return {Qt::Key_Up, {}};
-    case 39: return {Qt::Key_Right, {}};
-    case 40: return {Qt::Key_Down, {}};
-    case 46: return {Qt::Key_Delete, {}};
-    default: break;
+    case 8:
+        return {Qt::Key_Backspace, QStringLiteral("\b")};
+    case 9:
+        return {Qt::Key_Tab, QStringLiteral("\t")};
+    case 13:
+        return {Qt::Key_Return, QStringLiteral("\r")};
+    case 27:
+        return {Qt::Key_Escape, QString(QChar(27))};
+    case 32:
+        return {Qt::Key_Space, QStringLiteral(" ")};
+    case 33:
+        return {Qt::Key_PageUp, {}};
+    case 34:
+        return {Qt::Key_PageDown, {}};
+    case 35:
+        return {Qt::Key_End, {}};
+    case 36:
+        return {Qt::Key_Home, {}};
+    case 37:
+        return {Qt::Key_Left, {}};
+    case 38:
+        return {Qt::Key_Up, {}};
+    case 39:
+        return {Qt::Key_Right, {}};
+    case 40:
+        return {Qt::Key_Down, {}};
+    case 46:
+        return {Qt::Key_Delete, {}};
+    default:
+        break;
     }
     if (code >= '0' && code <= '9') return {code, QString(QChar(code))};
     if (code >= 'A' && code <= 'Z') return {code, QString(QChar(code + 32))};
@@ -81,16 +102,19 @@ void sendKey(QWidget* w, const Key& k, int repeat) {
 
 Qt::MouseButton qtButton(int vb) {
     switch (vb) {
-    case 2: return Qt::RightButton;
-    case 4: return Qt::MiddleButton;
-    default: return Qt::LeftButton;
+    case 2:
+        return Qt::RightButton;
+    case 4:
+        return Qt::MiddleButton;
+    default:
+        return Qt::LeftButton;
     }
 }
 
 const char* const kSetupCommands[] = {"seed", "rnd", "msgbox", "inputbox"};
-const char* const kCommands[] = {"seed",     "rnd",     "msgbox", "inputbox", "show", "activate",
-                                 "click",    "menu",    "mousedown", "type",   "key",  "settext",
-                                 "drag",     "dump",    "screenshot"};
+const char* const kCommands[] = {"seed",     "rnd",     "msgbox", "inputbox",  "show",
+                                 "activate", "click",   "menu",   "mousedown", "type",
+                                 "key",      "settext", "drag",   "dump",      "screenshot"};
 
 } // namespace
 
@@ -137,7 +161,8 @@ QJsonObject DriverEngine::execute(const QJsonObject& command) {
     if (app_->nav.ended()) return fail(QStringLiteral("the program has ended"));
 
     bool setup = false;
-    for (const char* c : kSetupCommands) setup = setup || verb == QLatin1String(c);
+    for (const char* c : kSetupCommands)
+        setup = setup || verb == QLatin1String(c);
     if (!setup && !started_) {
         started_ = true;
         Main(*app_);
@@ -161,17 +186,20 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         for (const QJsonValue& v : arg.toArray())
             if (!v.isDouble() || v.toDouble() < 0 || v.toDouble() >= 1)
                 return fail(QStringLiteral("rnd takes numbers in [0, 1)"));
-        for (const QJsonValue& v : arg.toArray()) rnd_.queue(v.toDouble());
+        for (const QJsonValue& v : arg.toArray())
+            rnd_.queue(v.toDouble());
         return ok();
     }
     if (verb == u"msgbox") {
         if (!arg.isArray()) return fail(QStringLiteral("msgbox takes an array of answers"));
-        for (const QJsonValue& v : arg.toArray()) dialogs_.queueAnswer(v.toInt());
+        for (const QJsonValue& v : arg.toArray())
+            dialogs_.queueAnswer(v.toInt());
         return ok();
     }
     if (verb == u"inputbox") {
         if (!arg.isArray()) return fail(QStringLiteral("inputbox takes an array of texts"));
-        for (const QJsonValue& v : arg.toArray()) dialogs_.queueText(v.toString());
+        for (const QJsonValue& v : arg.toArray())
+            dialogs_.queueText(v.toString());
         return ok();
     }
     if (verb == u"show") {
@@ -191,14 +219,17 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
 
     Form* form = app_->nav.active();
     if (verb == u"screenshot") {
-        if (cmd.contains(QStringLiteral("form"))) form = app_->nav.find(cmd.value(QStringLiteral("form")).toString());
+        if (cmd.contains(QStringLiteral("form")))
+            form = app_->nav.find(cmd.value(QStringLiteral("form")).toString());
         if (!form) return fail(QStringLiteral("no such screen"));
         if (!form->grab().save(arg.toString())) return fail(QStringLiteral("cannot write ") + arg.toString());
         return ok();
     }
     if (!form) return fail(QStringLiteral("no active screen"));
     Control* c = form->find(arg.toString());
-    if (!c) return fail(QStringLiteral("no control named ") + arg.toString() + QStringLiteral(" on ") + form->name());
+    if (!c)
+        return fail(QStringLiteral("no control named ") + arg.toString() + QStringLiteral(" on ") +
+                    form->name());
     if (verb == u"menu" && c->kind() != u"menu")
         return fail(arg.toString() + QStringLiteral(" is not a menu item"));
     if (const char* why = unreachable(c, form)) return ignored(why);
@@ -214,7 +245,8 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         const QPointF at = QRectF(w->rect()).center();
         QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), b, b, Qt::NoModifier);
         QCoreApplication::sendEvent(w, &press);
-        QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), b, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), b, Qt::NoButton,
+                            Qt::NoModifier);
         if (app_->nav.find(form->name()) == form) QCoreApplication::sendEvent(w, &release);
         return ok();
     }
@@ -235,9 +267,12 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
     }
     if (verb == u"settext") {
         const QString text = cmd.value(QStringLiteral("text")).toString();
-        if (auto* t = dynamic_cast<TextBox*>(c)) t->setText(text);
-        else if (auto* m = dynamic_cast<MultiLineTextBox*>(c)) m->setText(text);
-        else return fail(arg.toString() + QStringLiteral(" is not a text box"));
+        if (auto* t = dynamic_cast<TextBox*>(c))
+            t->setText(text);
+        else if (auto* m = dynamic_cast<MultiLineTextBox*>(c))
+            m->setText(text);
+        else
+            return fail(arg.toString() + QStringLiteral(" is not a text box"));
         return ok();
     }
     if (verb == u"drag") {
@@ -245,7 +280,8 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         if (!source) return fail(arg.toString() + QStringLiteral(" is not a label"));
         if (source->DragMode() != 1) return ignored("dragmode");
         Control* target = form->find(cmd.value(QStringLiteral("to")).toString());
-        if (!target) return fail(QStringLiteral("no control named ") + cmd.value(QStringLiteral("to")).toString());
+        if (!target)
+            return fail(QStringLiteral("no control named ") + cmd.value(QStringLiteral("to")).toString());
         if (const char* why = unreachable(target, form)) return ignored(why);
         if (target->DragDrop) target->DragDrop(source);
         return ok();
@@ -259,14 +295,16 @@ QJsonObject DriverEngine::dump(Form* form) {
     out[QStringLiteral("form")] = form ? QJsonValue(form->name()) : QJsonValue();
     out[QStringLiteral("active")] = nav.active() ? QJsonValue(nav.active()->name()) : QJsonValue();
     QJsonArray loaded;
-    for (Form* f : nav.loaded()) loaded.append(f->name());
+    for (Form* f : nav.loaded())
+        loaded.append(f->name());
     out[QStringLiteral("loaded")] = loaded;
     if (nav.ended()) out[QStringLiteral("ended")] = true;
     QJsonObject controls;
     if (form) {
         out[QStringLiteral("caption")] = form->Caption();
-        out[QStringLiteral("backcolor")] = form->BackColor().isValid() ? colourName(form->BackColor())
-                                                                       : colourName(form->palette().window().color());
+        out[QStringLiteral("backcolor")] = form->BackColor().isValid()
+                                               ? colourName(form->BackColor())
+                                               : colourName(form->palette().window().color());
         QString focus;
         if (QWidget* fw = form->focusWidget())
             for (Control* c : form->controls())
@@ -292,7 +330,8 @@ QJsonObject DriverEngine::dump(Form* form) {
                                                  {"Meta", g.Meta},
                                                  {"AttendiBottone", g.AttendiBottone}};
     QJsonArray events;
-    for (QJsonObject& e : log_.take()) events.append(e);
+    for (QJsonObject& e : log_.take())
+        events.append(e);
     out[QStringLiteral("events")] = events;
     return out;
 }

@@ -9,13 +9,19 @@ namespace contarello {
 
 namespace {
 
-Domanda piu(int esatto, int passo) { return {esatto, Str(esatto - passo) + QStringLiteral(" + ") + Str(passo) + QStringLiteral(" = ")}; }
-Domanda meno(int esatto, int passo) { return {esatto, Str(esatto + passo) + QStringLiteral(" - ") + Str(passo) + QStringLiteral(" = ")}; }
+Domanda piu(int esatto, int passo) {
+    return {esatto, Str(esatto - passo) + QStringLiteral(" + ") + Str(passo) + QStringLiteral(" = ")};
+}
+Domanda meno(int esatto, int passo) {
+    return {esatto, Str(esatto + passo) + QStringLiteral(" - ") + Str(passo) + QStringLiteral(" = ")};
+}
 
 // Tens from 10 to 90. Under a limit below 90 the tens must stay where the question still has a
 // result from 0 up, and no more than the limit: so only the tens that fit are drawn, still with one
 // draw. "fino" is the highest step that fits; with the limit at 90 or more all nine tens come.
-int Decine(Random& rnd, int fino) { return (Draw(rnd, std::clamp(fino / 10, 1, 9)) + 1) * 10; }
+int Decine(Random& rnd, int fino) {
+    return (Draw(rnd, std::clamp(fino / 10, 1, 9)) + 1) * 10;
+}
 
 Domanda Form1(Random& r, int n) {
     const int e = Draw(r, n, 1);
@@ -25,7 +31,9 @@ Domanda Form10(Random& r, int n) {
     const int e = Draw(r, n - 10, 10);
     return {e, Str(e - 10) + QStringLiteral(" + 10 = ")};
 }
-Domanda Form100(Random& r, int n) { return Draw(r, 2, 1) == 1 ? Form1(r, n) : Form10(r, n); }
+Domanda Form100(Random& r, int n) {
+    return Draw(r, 2, 1) == 1 ? Form1(r, n) : Form10(r, n);
+}
 Domanda Form1a(Random& r, int n) {
     const int e = Draw(r, n - 11, 10);
     return piu(e, Draw(r, 10));
@@ -45,7 +53,9 @@ Domanda Form1ma(Random& r, int n) {
     const int e = Draw(r, n - 1, 1);
     return {e, Str(e + 1) + QStringLiteral(" - 1 = ")};
 }
-Domanda Form10m(Random& r, int n) { return meno(Draw(r, n - 11, 10), 10); }
+Domanda Form10m(Random& r, int n) {
+    return meno(Draw(r, n - 11, 10), 10);
+}
 Domanda Form100m(Random& r, int n) {
     if (Draw(r, 2, 1) == 1) {
         const int e = Draw(r, n - 3, 1);

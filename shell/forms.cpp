@@ -28,26 +28,36 @@ Form* formOf(QObject* o) {
 
 int vbButton(Qt::MouseButton b) {
     switch (b) {
-    case Qt::LeftButton: return vbLeftButton;
-    case Qt::RightButton: return vbRightButton;
-    case Qt::MiddleButton: return vbMiddleButton;
-    default: return 0;
+    case Qt::LeftButton:
+        return vbLeftButton;
+    case Qt::RightButton:
+        return vbRightButton;
+    case Qt::MiddleButton:
+        return vbMiddleButton;
+    default:
+        return 0;
     }
 }
 
 int vbShift(Qt::KeyboardModifiers m) {
-    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0);
+    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
+           (m & Qt::AltModifier ? 4 : 0);
 }
 
 // The character code a key gives, as KeyPress sees it; 0 for keys that type nothing.
 int ansiOf(const QKeyEvent* e) {
     switch (e->key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
-    case Qt::Key_Backspace: return 8;
-    case Qt::Key_Escape: return 27;
-    case Qt::Key_Tab: return 0;
-    default: break;
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Tab:
+        return 0;
+    default:
+        break;
     }
     return e->text().isEmpty() ? 0 : Asc(e->text().at(0));
 }
@@ -56,12 +66,18 @@ int ansiOf(const QKeyEvent* e) {
 int vbKeyCode(const QKeyEvent* e) {
     switch (e->key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
-    case Qt::Key_Backspace: return 8;
-    case Qt::Key_Escape: return 27;
-    case Qt::Key_Tab: return 9;
-    case Qt::Key_Delete: return 46;
-    default: break;
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Tab:
+        return 9;
+    case Qt::Key_Delete:
+        return 46;
+    default:
+        break;
     }
     return e->key() < 256 ? e->key() : 0;
 }
@@ -113,7 +129,9 @@ QFont SansSerif(double points, bool bold) {
     return f;
 }
 
-QString colourName(QColor c) { return c.name(QColor::HexRgb); }
+QString colourName(QColor c) {
+    return c.name(QColor::HexRgb);
+}
 
 // ---- Control ----
 
@@ -240,7 +258,8 @@ bool CommandButton::userClick() {
 void CommandButton::mousePressEvent(QMouseEvent* e) {
     if (MouseDown) {
         const QPoint p = e->position().toPoint();
-        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), p.x() * kTwipsPerPixel, p.y() * kTwipsPerPixel);
+        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), p.x() * kTwipsPerPixel,
+                  p.y() * kTwipsPerPixel);
     }
     QAbstractButton::mousePressEvent(e);
 }
@@ -264,9 +283,11 @@ void CommandButton::paintEvent(QPaintEvent*) {
         const int textHeight = caption_.isEmpty() ? 0 : p.fontMetrics().height();
         const int top = area.top() + (area.height() - ps.height() - textHeight) / 2;
         const QRect pic(area.left() + (area.width() - ps.width()) / 2, top, ps.width(), ps.height());
-        if (isEnabled()) p.drawPixmap(pic, picture_);
-        else style()->drawItemPixmap(&p, pic, Qt::AlignCenter,
-                                     style()->generatedIconPixmap(QIcon::Disabled, picture_, &opt));
+        if (isEnabled())
+            p.drawPixmap(pic, picture_);
+        else
+            style()->drawItemPixmap(&p, pic, Qt::AlignCenter,
+                                    style()->generatedIconPixmap(QIcon::Disabled, picture_, &opt));
         area.setTop(pic.bottom() + 1);
     }
     if (!caption_.isEmpty()) p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, caption_);
@@ -285,7 +306,9 @@ void TextBox::describe(QJsonObject& out) const {
     if (fontSizeSet_) out[QStringLiteral("fontsize")] = font().pointSizeF();
 }
 
-void TextBox::SetFocus() { setFocus(Qt::OtherFocusReason); }
+void TextBox::SetFocus() {
+    setFocus(Qt::OtherFocusReason);
+}
 
 void TextBox::setFontSize(double points) {
     QFont f = font();
@@ -351,7 +374,9 @@ void MultiLineTextBox::setFontSize(double points) {
     fontSizeSet_ = true;
 }
 
-void MultiLineTextBox::SetFocus() { setFocus(Qt::OtherFocusReason); }
+void MultiLineTextBox::SetFocus() {
+    setFocus(Qt::OtherFocusReason);
+}
 
 void MultiLineTextBox::describe(QJsonObject& out) const {
     describeCommon(out);
@@ -360,8 +385,8 @@ void MultiLineTextBox::describe(QJsonObject& out) const {
 }
 
 void MultiLineTextBox::keyPressEvent(QKeyEvent* e) {
-    const bool types = !e->text().isEmpty() && (e->text().at(0).isPrint() || e->key() == Qt::Key_Return ||
-                                                e->key() == Qt::Key_Enter);
+    const bool types = !e->text().isEmpty() &&
+                       (e->text().at(0).isPrint() || e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter);
     if (types && MaxLength > 0 && toPlainText().size() >= MaxLength && !textCursor().hasSelection()) {
         e->accept();
         return;
@@ -407,7 +432,9 @@ void OptionButton::setValue(bool v) {
     if (v && Click) Click();
 }
 
-void OptionButton::setBackColor(QColor c) { Control::setBackColor(c); }
+void OptionButton::setBackColor(QColor c) {
+    Control::setBackColor(c);
+}
 
 // ---- Frame ----
 
@@ -418,8 +445,12 @@ void Frame::describe(QJsonObject& out) const {
     out[QStringLiteral("caption")] = title();
 }
 
-void Frame::setLeft(int twips) { move(tw(twips), y()); }
-void Frame::setTop(int twips) { move(x(), tw(twips)); }
+void Frame::setLeft(int twips) {
+    move(tw(twips), y());
+}
+void Frame::setTop(int twips) {
+    move(x(), tw(twips));
+}
 
 // ---- Shape ----
 
@@ -448,21 +479,28 @@ void Shape::paintEvent(QPaintEvent*) {
     p.setPen(QPen(border_, 1));
     const QRectF r = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     switch (shape_) {
-    case Rectangle: p.drawRect(r); break;
-    case Oval: p.drawEllipse(r); break;
+    case Rectangle:
+        p.drawRect(r);
+        break;
+    case Oval:
+        p.drawEllipse(r);
+        break;
     case Circle: {
         const double d = std::min(r.width(), r.height());
         p.drawEllipse(QRectF(r.center().x() - d / 2, r.center().y() - d / 2, d, d));
         break;
     }
-    case RoundedRectangle: p.drawRoundedRect(r, 4, 4); break;
+    case RoundedRectangle:
+        p.drawRoundedRect(r, 4, 4);
+        break;
     }
 }
 
 void Shape::mousePressEvent(QMouseEvent* e) {
     if (MouseDown) {
         const QPoint pt = e->position().toPoint();
-        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), pt.x() * kTwipsPerPixel, pt.y() * kTwipsPerPixel);
+        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), pt.x() * kTwipsPerPixel,
+                  pt.y() * kTwipsPerPixel);
     }
 }
 
@@ -507,19 +545,25 @@ void ListBox::AddItem(const QString& s) {
     if (sorted_) {
         // A sorted list orders its items as text, small and capital letters alike.
         at = 0;
-        while (at < count() && QString::compare(item(at)->text(), s, Qt::CaseInsensitive) <= 0) ++at;
+        while (at < count() && QString::compare(item(at)->text(), s, Qt::CaseInsensitive) <= 0)
+            ++at;
     }
     insertItem(at, s);
 }
 
-QString ListBox::Text() const { return currentItem() ? currentItem()->text() : QString(); }
+QString ListBox::Text() const {
+    return currentItem() ? currentItem()->text() : QString();
+}
 
-QString ListBox::List(int i) const { return i >= 0 && i < count() ? item(i)->text() : QString(); }
+QString ListBox::List(int i) const {
+    return i >= 0 && i < count() ? item(i)->text() : QString();
+}
 
 void ListBox::describe(QJsonObject& out) const {
     describeCommon(out);
     QJsonArray items;
-    for (int i = 0; i < count(); ++i) items.append(item(i)->text());
+    for (int i = 0; i < count(); ++i)
+        items.append(item(i)->text());
     out[QStringLiteral("items")] = items;
     out[QStringLiteral("listindex")] = currentRow();
 }
@@ -532,11 +576,21 @@ MenuItem::MenuItem(QObject* parent, QAction* action) : QObject(parent), action_(
     });
 }
 
-bool MenuItem::Visible() const { return action_->isVisible(); }
-bool MenuItem::Enabled() const { return action_->isEnabled(); }
-void MenuItem::setVisible(bool v) { action_->setVisible(v); }
-void MenuItem::setEnabled(bool e) { action_->setEnabled(e); }
-bool MenuItem::Checked() const { return action_->isChecked(); }
+bool MenuItem::Visible() const {
+    return action_->isVisible();
+}
+bool MenuItem::Enabled() const {
+    return action_->isEnabled();
+}
+void MenuItem::setVisible(bool v) {
+    action_->setVisible(v);
+}
+void MenuItem::setEnabled(bool e) {
+    action_->setEnabled(e);
+}
+bool MenuItem::Checked() const {
+    return action_->isChecked();
+}
 
 void MenuItem::setChecked(bool c) {
     action_->setCheckable(c || action_->isCheckable());
@@ -616,8 +670,12 @@ void Form::registerControl(Control* c, const QString& name) {
     byName_[name] = c;
 }
 
-void Form::Show(const QString& formName) { app.nav.Show(formName); }
-void Form::UnloadMe() { app.nav.Unload(this); }
+void Form::Show(const QString& formName) {
+    app.nav.Show(formName);
+}
+void Form::UnloadMe() {
+    app.nav.Unload(this);
+}
 
 Label* Form::label(const QString& name, const QString& caption, int left, int top, int width, int height,
                    const QFont& font, QWidget* parent) {
@@ -666,13 +724,16 @@ MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* pare
         menuBar_->setPalette(p);
         menuBar_->setAutoFillBackground(true);
         menuBar_->setFont(SansSerif(9.75));
-        const int h = menuBar_->sizeHint().height();
-        menuBar_->setGeometry(0, 0, width(), h);
-        client_->setGeometry(0, h, width(), height() - h);
     }
     QWidget* holder = parentItem ? static_cast<QWidget*>(parentItem->submenu()) : menuBar_;
     auto* a = new QAction(caption, holder);
     holder->insertAction(before ? before->action() : nullptr, a);
+    if (!parentItem) {
+        // The bar has its height once it holds an item; the controls stand below it.
+        const int h = menuBar_->sizeHint().height();
+        menuBar_->setGeometry(0, 0, width(), h);
+        client_->setGeometry(0, h, width(), height() - h);
+    }
     auto* item = new MenuItem(this, a);
     registerControl(item, name);
     item->setCaption(caption);

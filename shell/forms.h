@@ -30,7 +30,9 @@ struct Modulo1;
 class Form;
 
 constexpr int kTwipsPerPixel = 15;
-inline int tw(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
+inline int tw(int twips) {
+    return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel;
+}
 
 QFont Arial(double points, bool bold = true);
 QFont SansSerif(double points, bool bold = false); // "MS Sans Serif", mapped to Liberation Sans
@@ -368,12 +370,12 @@ protected:
     // Controls are made through these, so that each is named, placed and known to the form.
     Label* label(const QString& name, const QString& caption, int left, int top, int width, int height,
                  const QFont& font, QWidget* parent = nullptr);
-    CommandButton* button(const QString& name, const QString& caption, int left, int top, int width, int height,
-                          const QFont& font, QWidget* parent = nullptr);
+    CommandButton* button(const QString& name, const QString& caption, int left, int top, int width,
+                          int height, const QFont& font, QWidget* parent = nullptr);
     TextBox* textBox(const QString& name, int left, int top, int width, int height, const QFont& font,
                      QWidget* parent = nullptr);
-    OptionButton* option(const QString& name, const QString& caption, int left, int top, int width, int height,
-                         const QFont& font, QWidget* parent = nullptr);
+    OptionButton* option(const QString& name, const QString& caption, int left, int top, int width,
+                         int height, const QFont& font, QWidget* parent = nullptr);
     Frame* frame(const QString& name, const QString& caption, int left, int top, int width, int height,
                  const QFont& font, QWidget* parent = nullptr);
     // A menu item on the bar, or in the submenu of parentItem; before puts it ahead of that item.

@@ -17,7 +17,7 @@ QString FiltroCifre(const QString& text) {
 }
 
 ExerciseForm::ExerciseForm(Program& program, const QString& name, Variante variante, int16_t numeroScheda,
-                           int widthTwips, int heightTwips, MenuNames names)
+                           int widthTwips, int heightTwips, FrameOptions names)
     : Form(program, name, widthTwips, heightTwips), variante_(variante), numeroScheda_(numeroScheda) {
     MenuAzzera = menu(names.azzera, QStringLiteral("Azzera conteggio") + kBlanks7);
     mnuStampa = menu(names.stampa, QStringLiteral("Stampa scheda") + kBlanks7);
@@ -25,9 +25,11 @@ ExerciseForm::ExerciseForm(Program& program, const QString& name, Variante varia
     mnuEsci = menu(names.esci, QStringLiteral("Esci"));
 
     Label1 = label(QStringLiteral("Label1"), QStringLiteral("Esatti"), 360, 480, 1095, 375, Arial(12));
-    EtichettaEsatti = label(QStringLiteral("EtichettaEsatti"), QStringLiteral("0"), 1500, 420, 1095, 495, Arial(18));
+    EtichettaEsatti =
+        label(QStringLiteral("EtichettaEsatti"), QStringLiteral("0"), 1500, 420, 1095, 495, Arial(18));
     Label2 = label(QStringLiteral("Label2"), QStringLiteral("Errati"), 3000, 480, 1095, 375, Arial(12));
-    EtichettaErrati = label(QStringLiteral("EtichettaErrati"), QStringLiteral("0"), 4140, 420, 1095, 495, Arial(18));
+    EtichettaErrati =
+        label(QStringLiteral("EtichettaErrati"), QStringLiteral("0"), 4140, 420, 1095, 495, Arial(18));
 
     // The two faces share one place, so exactly one of them is seen: the sad one until a right answer.
     ComandoIconaSi = button(QStringLiteral("ComandoIconaSi"), QString(), 6045, 315, 855, 750, Arial(8));
@@ -38,12 +40,14 @@ ExerciseForm::ExerciseForm(Program& program, const QString& name, Variante varia
     ComandoIconaNo->setPicture(pictures::FacciaTriste());
     ComandoIconaNo->setFocusPolicy(Qt::NoFocus);
 
-    BottoneAvanti = button(QStringLiteral("BottoneAvanti"), QStringLiteral("avanti"), 7440, 4080, 1575, 1215,
-                           Arial(14.25));
-    BottoneAvanti->setPicture(pictures::Freccia());
-    BottoneAvanti->setVisible(false);
-    BottoneAvanti->setEnabled(false);
-    BottoneAvanti->Click = [this] { BottoneAvanti_Click(); };
+    if (names.bottoneAvanti) {
+        BottoneAvanti = button(QStringLiteral("BottoneAvanti"), QStringLiteral("avanti"), 7440, 4080, 1575,
+                               1215, Arial(14.25));
+        BottoneAvanti->setPicture(pictures::Freccia());
+        BottoneAvanti->setVisible(false);
+        BottoneAvanti->setEnabled(false);
+        BottoneAvanti->Click = [this] { BottoneAvanti_Click(); };
+    }
 
     MenuAzzera->Click = [this] { AzzeraConteggio(); };
     mnuStampa->Click = [this] { mnuStampa_Click(); };
@@ -87,8 +91,8 @@ void ExerciseForm::RispostaErrata() {
 void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const QString& menuCaption,
                                                 MenuItem* before) {
     CorniceNumeroMassimo = frame(QStringLiteral("CorniceNumeroMassimo"),
-                                 QStringLiteral("Scegli il numero massimo entro il quale lavorare"), 0, 0, 11355,
-                                 7890, Arial(14.25));
+                                 QStringLiteral("Scegli il numero massimo entro il quale lavorare"), 0, 0,
+                                 11355, 7890, Arial(14.25));
     // The panel lies over the whole screen in the colour of the menus, so nothing behind it shows.
     QPalette p = CorniceNumeroMassimo->palette();
     p.setColor(QPalette::Window, QColor(0xc0, 0xff, 0xff));
@@ -118,8 +122,8 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
 // ---- QuestionForm ----
 
 QuestionForm::QuestionForm(Program& program, const QString& name, Variante variante, int16_t numeroScheda,
-                           Look look, MenuNames names)
-    : ExerciseForm(program, name, variante, numeroScheda, 9495, 6510, names) {
+                           Look look, FrameOptions options)
+    : ExerciseForm(program, name, variante, numeroScheda, 9495, 6510, options) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 240, 1440, 8895, 855, look.numero);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
     Text1 = textBox(QStringLiteral("Text1"), 2520, 2520, 4335, 1335, look.testo);
@@ -127,7 +131,9 @@ QuestionForm::QuestionForm(Program& program, const QString& name, Variante varia
     Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
 }
 
-void QuestionForm::Load() { AzzeraConteggio(); }
+void QuestionForm::Load() {
+    AzzeraConteggio();
+}
 
 void QuestionForm::Activate() {
     BottoneAvanti->setVisible(g.AttendiBottone != False);
@@ -146,7 +152,9 @@ void QuestionForm::ScriviDomanda(const QString& caption) {
     if (Text1->isEnabled()) Text1->SetFocus();
 }
 
-void QuestionForm::MostraRispostaEsatta() { EtichettaNumero->setCaption(EtichettaNumero->Caption() + Text1->Text()); }
+void QuestionForm::MostraRispostaEsatta() {
+    EtichettaNumero->setCaption(EtichettaNumero->Caption() + Text1->Text());
+}
 
 void QuestionForm::Text1_KeyUp(int keyCode, int) {
     if (keyCode != 13 || Text1->Text().isEmpty()) return;

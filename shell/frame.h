@@ -8,12 +8,14 @@
 
 namespace contarello {
 
-// Names of the frame's menu items; a few screens spell one differently.
-struct FrameMenuNames {
+// What a screen changes of the frame: the names of its menu items (a few screens spell one
+// differently), and whether it has the "avanti" button at all.
+struct FrameOptions {
     const char* azzera = "MenuAzzera";
     const char* stampa = "mnuStampa";
     const char* informazioni = "MenuInformazioni";
     const char* esci = "mnuEsci";
+    bool bottoneAvanti = true;
 };
 
 // The fonts of the question and of the answer box.
@@ -25,10 +27,8 @@ struct QuestionLook {
 class ExerciseForm : public Form {
     Q_OBJECT
 public:
-    using MenuNames = FrameMenuNames;
-
     ExerciseForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda,
-                 int widthTwips = 9495, int heightTwips = 6510, MenuNames names = {});
+                 int widthTwips = 9495, int heightTwips = 6510, FrameOptions options = {});
 
     Variante variante() const { return variante_; }
     int16_t numeroScheda() const { return numeroScheda_; }
@@ -59,7 +59,7 @@ protected:
     Label* EtichettaErrati;
     CommandButton* ComandoIconaSi;
     CommandButton* ComandoIconaNo;
-    CommandButton* BottoneAvanti;
+    CommandButton* BottoneAvanti = nullptr; // none on the screens without it
     MenuItem* MenuAzzera;
     MenuItem* mnuStampa;
     MenuItem* MenuInformazioni;
@@ -79,7 +79,7 @@ class QuestionForm : public ExerciseForm {
 public:
     using Look = QuestionLook;
     QuestionForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda, Look look = {},
-                 MenuNames names = {});
+                 FrameOptions options = {});
 
     void Load() override;
     void Activate() override;

@@ -13,7 +13,9 @@ QString Str(long long n) {
 
 namespace {
 
-bool isSkipped(QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; }
+bool isSkipped(QChar c) {
+    return c == u' ' || c == u'\t' || c == u'\n';
+}
 
 double radixValue(const QString& text, int from, int radix) {
     double v = 0;
@@ -21,8 +23,10 @@ double radixValue(const QString& text, int from, int radix) {
         const char16_t u = text[i].toUpper().unicode();
         if (isSkipped(text[i])) continue;
         int d = -1;
-        if (u >= u'0' && u <= u'9') d = u - u'0';
-        else if (u >= u'A' && u <= u'F') d = u - u'A' + 10;
+        if (u >= u'0' && u <= u'9')
+            d = u - u'0';
+        else if (u >= u'A' && u <= u'F')
+            d = u - u'A' + 10;
         if (d < 0 || d >= radix) break;
         v = v * radix + d;
     }
@@ -33,7 +37,8 @@ double radixValue(const QString& text, int from, int radix) {
 
 double Val(const QString& text) {
     int i = 0;
-    while (i < text.size() && isSkipped(text[i])) ++i;
+    while (i < text.size() && isSkipped(text[i]))
+        ++i;
     if (i + 1 < text.size() && text[i] == u'&') {
         const QChar r = text[i + 1].toUpper();
         if (r == u'H') return radixValue(text, i + 2, 16);
@@ -73,12 +78,14 @@ QString Format(double n, const QString& pattern) {
     Q_UNUSED(pattern); // both patterns the program uses group thousands and show at least one digit
     const long long v = std::llround(n);
     QString digits = QString::number(v < 0 ? -v : v);
-    for (int pos = digits.size() - 3; pos > 0; pos -= 3) digits.insert(pos, QLatin1Char('.'));
+    for (int pos = digits.size() - 3; pos > 0; pos -= 3)
+        digits.insert(pos, QLatin1Char('.'));
     return v < 0 ? QLatin1Char('-') + digits : digits;
 }
 
 long long Int(double x) {
-    if (!std::isfinite(x)) return x > 0 ? std::numeric_limits<long long>::max() : std::numeric_limits<long long>::min();
+    if (!std::isfinite(x))
+        return x > 0 ? std::numeric_limits<long long>::max() : std::numeric_limits<long long>::min();
     return static_cast<long long>(std::floor(x));
 }
 
@@ -90,12 +97,16 @@ int16_t CInt(double x) {
     return static_cast<int16_t>(r);
 }
 
-int Draw(Random& random, double n, int m) { return static_cast<int>(Int(random.Rnd() * n)) + m; }
+int Draw(Random& random, double n, int m) {
+    return static_cast<int>(Int(random.Rnd() * n)) + m;
+}
 
 QString Trim(const QString& s) {
     int a = 0, b = s.size();
-    while (a < b && s[a] == u' ') ++a;
-    while (b > a && s[b - 1] == u' ') --b;
+    while (a < b && s[a] == u' ')
+        ++a;
+    while (b > a && s[b - 1] == u' ')
+        --b;
     return s.mid(a, b - a);
 }
 
@@ -104,9 +115,13 @@ QString Mid(const QString& s, int start, int length) {
     return s.mid(start - 1, length);
 }
 
-QString Left(const QString& s, int length) { return s.left(std::max(0, length)); }
+QString Left(const QString& s, int length) {
+    return s.left(std::max(0, length));
+}
 
-int InStr(const QString& s, const QString& what) { return s.indexOf(what) + 1; }
+int InStr(const QString& s, const QString& what) {
+    return s.indexOf(what) + 1;
+}
 
 namespace {
 // Windows-1252 places 0x80 to 0x9F on these code points.
@@ -124,10 +139,13 @@ int Asc(QChar c) {
     return 63;
 }
 
-int Asc(const QString& s) { return s.isEmpty() ? 0 : Asc(s[0]); }
+int Asc(const QString& s) {
+    return s.isEmpty() ? 0 : Asc(s[0]);
+}
 
 QString Chr(int code) {
-    if (code >= 0x80 && code < 0xA0 && kCp1252High[code - 0x80]) return QString(QChar(kCp1252High[code - 0x80]));
+    if (code >= 0x80 && code < 0xA0 && kCp1252High[code - 0x80])
+        return QString(QChar(kCp1252High[code - 0x80]));
     return QString(QChar(char16_t(code & 0xFF)));
 }
 

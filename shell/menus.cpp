@@ -11,16 +11,17 @@ namespace contarello {
 // ---- FormAvvio ----
 
 FormAvvio::FormAvvio(Program& program) : Form(program, QStringLiteral("FormAvvio"), 11100, 6300) {
-    auto* sopra = label(indexed(QStringLiteral("Label2"), 1), QStringLiteral("Calcolario"), 480, 600, 10140, 495,
-                        Arial(18));
+    auto* sopra = label(indexed(QStringLiteral("Label2"), 1), QStringLiteral("Calcolario"), 480, 600, 10140,
+                        495, Arial(18));
     sopra->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     Label2.set(1, sopra);
-    auto* titolo = label(indexed(QStringLiteral("Label2"), 0), QStringLiteral("  Contarello"), 120, 1320, 10860,
-                         1695, Arial(72));
+    auto* titolo = label(indexed(QStringLiteral("Label2"), 0), QStringLiteral("  Contarello"), 120, 1320,
+                         10860, 1695, Arial(72));
     titolo->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     titolo->setWordWrap(false);
     Label2.set(0, titolo);
-    BottoneAvvio = button(QStringLiteral("BottoneAvvio"), QStringLiteral("Avvio"), 4110, 3600, 2880, 1695, Arial(24));
+    BottoneAvvio =
+        button(QStringLiteral("BottoneAvvio"), QStringLiteral("Avvio"), 4110, 3600, 2880, 1695, Arial(24));
     BottoneAvvio->setPicture(pictures::Avvio());
     BottoneAvvio->Click = [this] {
         Show(QStringLiteral("FormMenu"));
@@ -28,29 +29,33 @@ FormAvvio::FormAvvio(Program& program) : Form(program, QStringLiteral("FormAvvio
     };
 }
 
-void FormAvvio::Load() { CaricaColori(*this, Variante::A); }
+void FormAvvio::Load() {
+    CaricaColori(*this, Variante::A);
+}
 
 // ---- FormMenu ----
 
 FormMenu::FormMenu(Program& program) : Form(program, QStringLiteral("FormMenu"), 8400, 7200) {
     const QFont f = Arial(15.75);
-    auto* c2 = button(QStringLiteral("Command2"), QStringLiteral("Esercizi con supporto grafico"), 1080, 480, 6240,
-                      855, f);
+    auto* c2 = button(QStringLiteral("Command2"), QStringLiteral("Esercizi con supporto grafico"), 1080, 480,
+                      6240, 855, f);
     c2->Click = [this] {
         Show(QStringLiteral("FormMenuGrafici"));
         UnloadMe();
     };
-    auto* c3 = button(QStringLiteral("Command3"), QStringLiteral("Esercizi con solo numeri"), 1080, 1560, 6240, 855, f);
+    auto* c3 = button(QStringLiteral("Command3"), QStringLiteral("Esercizi con solo numeri"), 1080, 1560,
+                      6240, 855, f);
     c3->Click = [this] {
         Show(QStringLiteral("FormMenuNumeri"));
         UnloadMe();
     };
-    auto* c4 = button(QStringLiteral("Command4"), QStringLiteral("Scegli il numero massimo"), 1080, 2640, 6240, 855, f);
+    auto* c4 = button(QStringLiteral("Command4"), QStringLiteral("Scegli il numero massimo"), 1080, 2640,
+                      6240, 855, f);
     c4->Click = [this] { Command4_Click(); };
 
     Option1.set(1, option(indexed(QStringLiteral("Option1"), 1),
-                          QStringLiteral("attende la pressione del bottone per proseguire"), 1080, 3720, 6240, 495,
-                          Arial(12)));
+                          QStringLiteral("attende la pressione del bottone per proseguire"), 1080, 3720, 6240,
+                          495, Arial(12)));
     Option1.set(0, option(indexed(QStringLiteral("Option1"), 0),
                           QStringLiteral("prosegue automaticamente  negli esercizi"), 1080, 4260, 6240, 495,
                           Arial(12)));
@@ -63,8 +68,10 @@ FormMenu::FormMenu(Program& program) : Form(program, QStringLiteral("FormMenu"),
 }
 
 void FormMenu::Load() {
-    if (g.AttendiBottone == False) Option1(0)->setValue(true);
-    else Option1(1)->setValue(true);
+    if (g.AttendiBottone == False)
+        Option1(0)->setValue(true);
+    else
+        Option1(1)->setValue(true);
     CaricaColori(*this, Variante::A);
     Option1(0)->setBackColor(BackColor());
     Option1(1)->setBackColor(BackColor());
@@ -75,8 +82,10 @@ void FormMenu::Command4_Click() {
                                                 QString::number(g.NumeroMassimo));
     const double v = Val(scelta);
     // The number is tested before it becomes an integer: 19.5 passes and is stored as 20.
-    if (v > 19 && v < 100) g.NumeroMassimo = CInt(v);
-    else app.dialogs.MsgBox(QStringLiteral("Scelta non accettabile"), vbCritical, kTitolo);
+    if (v > 19 && v < 100)
+        g.NumeroMassimo = CInt(v);
+    else
+        app.dialogs.MsgBox(QStringLiteral("Scelta non accettabile"), vbCritical, kTitolo);
 }
 
 // ---- The two exercise menus ----
@@ -178,8 +187,8 @@ ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)
         const VoceMenu& v = layout.voci[i];
         // The row under the columns starts below the last row of the longest column, after its heading.
         const int top = v.row < 8 || layout.nIntestazioni == 0 ? layout.firstTop + v.row * kRowStep : 5940;
-        auto* b = button(QLatin1String(v.control), QString::fromUtf8(v.caption), kColumnLeft + v.column * kColumnStep,
-                         top, kButtonWidth, kButtonHeight, f);
+        auto* b = button(QLatin1String(v.control), QString::fromUtf8(v.caption),
+                         kColumnLeft + v.column * kColumnStep, top, kButtonWidth, kButtonHeight, f);
         const QString target = QLatin1String(v.form);
         // A screen that isn't there yet leaves the menu where it is.
         b->Click = [this, target] {
@@ -189,19 +198,27 @@ ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)
         };
     }
     auto* torna = button(QStringLiteral("Command1"), QStringLiteral("Torna al menù generale"),
-                         kColumnLeft + layout.command1Column * kColumnStep, layout.command1Top, kButtonWidth, 855,
-                         Arial(9.75));
+                         kColumnLeft + layout.command1Column * kColumnStep, layout.command1Top, kButtonWidth,
+                         855, Arial(9.75));
     torna->Click = [this] {
         Show(QStringLiteral("FormMenu"));
         UnloadMe();
     };
 }
 
-void ExerciseMenuForm::Load() { CaricaColori(*this, Variante::A); }
+void ExerciseMenuForm::Load() {
+    CaricaColori(*this, Variante::A);
+}
 
-std::unique_ptr<Form> MakeFormAvvio(Program& app) { return std::make_unique<FormAvvio>(app); }
-std::unique_ptr<Form> MakeFormMenu(Program& app) { return std::make_unique<FormMenu>(app); }
-std::unique_ptr<Form> MakeFormMenuNumeri(Program& app) { return std::make_unique<ExerciseMenuForm>(app, kMenuNumeri); }
+std::unique_ptr<Form> MakeFormAvvio(Program& app) {
+    return std::make_unique<FormAvvio>(app);
+}
+std::unique_ptr<Form> MakeFormMenu(Program& app) {
+    return std::make_unique<FormMenu>(app);
+}
+std::unique_ptr<Form> MakeFormMenuNumeri(Program& app) {
+    return std::make_unique<ExerciseMenuForm>(app, kMenuNumeri);
+}
 std::unique_ptr<Form> MakeFormMenuGrafici(Program& app) {
     return std::make_unique<ExerciseMenuForm>(app, kMenuGrafici);
 }

@@ -21,11 +21,13 @@ Navigator::Navigator(Program& app, std::vector<FormEntry> table, EventLog* log)
     : app_(app), table_(std::move(table)), log_(log) {}
 
 Navigator::~Navigator() {
-    for (Form* f : forms_) delete f;
+    for (Form* f : forms_)
+        delete f;
 }
 
 bool Navigator::exists(const QString& name) const {
-    return std::any_of(table_.begin(), table_.end(), [&](const FormEntry& e) { return name == QLatin1String(e.name); });
+    return std::any_of(table_.begin(), table_.end(),
+                       [&](const FormEntry& e) { return name == QLatin1String(e.name); });
 }
 
 Form* Navigator::find(const QString& name) const {
@@ -34,7 +36,9 @@ Form* Navigator::find(const QString& name) const {
     return nullptr;
 }
 
-std::vector<Form*> Navigator::loaded() const { return forms_; }
+std::vector<Form*> Navigator::loaded() const {
+    return forms_;
+}
 
 Form* Navigator::Show(const QString& name) {
     if (ended_) return nullptr;

@@ -66,7 +66,8 @@ QPixmap ManoAlzata() {
         p.setBrush(QColor(0xff, 0xcc, 0x99));
         // four fingers, the thumb, then the palm over their roots
         const double fingers[4][2] = {{8, 6}, {12.5, 3}, {17, 3.5}, {21.5, 7}};
-        for (const auto& f : fingers) p.drawRoundedRect(QRectF(f[0], f[1], 4, 15), 2, 2);
+        for (const auto& f : fingers)
+            p.drawRoundedRect(QRectF(f[0], f[1], 4, 15), 2, 2);
         QPainterPath thumb;
         thumb.moveTo(8, 20);
         thumb.lineTo(3, 14);
@@ -115,7 +116,8 @@ QPixmap FoglioNuovo() {
               << QPointF(6.5, 29.5);
         p.drawPolygon(sheet);
         p.setPen(QPen(QColor(0x90, 0x90, 0x90), 1));
-        for (int y = 12; y <= 26; y += 4) p.drawLine(QPointF(9.5, y + 0.5), QPointF(23.5, y + 0.5));
+        for (int y = 12; y <= 26; y += 4)
+            p.drawLine(QPointF(9.5, y + 0.5), QPointF(23.5, y + 0.5));
         p.setPen(QPen(QColor(0xc0, 0x80, 0x00), 1));
         p.setBrush(QColor(0xff, 0xd0, 0x00));
         QPolygonF star;

@@ -11,7 +11,8 @@ void Main(Program& app) {
 }
 
 void MostraInformazioni(Program& app) {
-    const QString testo = QStringLiteral("Nora Belli  ") + CRLF + QStringLiteral(" ----------------------- ") + CRLF +
+    const QString testo = QStringLiteral("Nora Belli  ") + CRLF +
+                          QStringLiteral(" ----------------------- ") + CRLF +
                           QStringLiteral("https://contarello.example.org") + CRLF +
                           QStringLiteral("mail: contarello@example.org");
     app.dialogs.MsgBox(testo, vbInformation, kTitolo);
@@ -32,8 +33,12 @@ void SuonoEsatto(Program& app) {
     app.sound.play(app.appPath + QStringLiteral("/suoni/si") + QString::number(r) + QStringLiteral(".wav"));
 }
 
-void SuonoErrato(Program& app) { app.sound.play(app.appPath + QStringLiteral("/suoni/no.wav")); }
+void SuonoErrato(Program& app) {
+    app.sound.play(app.appPath + QStringLiteral("/suoni/no.wav"));
+}
 
-void suona(Program& app) { app.sound.play(app.appPath + QStringLiteral("/suoni/si.wav")); }
+void suona(Program& app) {
+    app.sound.play(app.appPath + QStringLiteral("/suoni/si.wav"));
+}
 
 } // namespace contarello

@@ -29,7 +29,9 @@ void PrepareToolkit(QApplication& app) {
         QCoreApplication::installTranslator(qt);
 }
 
-double QtRandom::Rnd() { return std::generate_canonical<double, 32>(gen_); }
+double QtRandom::Rnd() {
+    return std::generate_canonical<double, 32>(gen_);
+}
 
 void QtRandom::Randomize() {
     gen_.seed(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
@@ -38,7 +40,8 @@ void QtRandom::Randomize() {
 QtSound::QtSound() = default;
 
 QtSound::~QtSound() {
-    for (auto& [path, effect] : effects_) delete effect;
+    for (auto& [path, effect] : effects_)
+        delete effect;
 }
 
 void QtSound::play(const QString& path) {
@@ -59,11 +62,20 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
     box.setWindowTitle(title);
     box.setText(text);
     switch (style & 0xF0) {
-    case vbCritical: box.setIcon(QMessageBox::Critical); break;
-    case 32: box.setIcon(QMessageBox::Question); break;
-    case 48: box.setIcon(QMessageBox::Warning); break;
-    case vbInformation: box.setIcon(QMessageBox::Information); break;
-    default: break;
+    case vbCritical:
+        box.setIcon(QMessageBox::Critical);
+        break;
+    case 32:
+        box.setIcon(QMessageBox::Question);
+        break;
+    case 48:
+        box.setIcon(QMessageBox::Warning);
+        break;
+    case vbInformation:
+        box.setIcon(QMessageBox::Information);
+        break;
+    default:
+        break;
     }
     if ((style & 0xF) == 4) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -77,8 +89,8 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
 
 QString QtDialogs::InputBox(const QString& prompt, const QString& title, const QString& defaultText) {
     bool ok = false;
-    const QString text =
-        QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal, defaultText, &ok);
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal,
+                                               defaultText, &ok);
     return ok ? text : QString();
 }
 

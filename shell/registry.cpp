@@ -23,6 +23,10 @@ std::vector<FormEntry> FormTable() {
         {"Form1m", MakeStepForm<9>},
         {"Form10ma", MakeStepForm<10>},
         {"Form100ma", MakeStepForm<11>},
+        // neighbours, comparison, tens and units, expressions
+        // words and digits
+        // ordering, column sums
+        // worksheets
     };
 }
 

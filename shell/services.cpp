@@ -20,7 +20,8 @@ void ScriptedRandom::Randomize() {
 void RecordingSound::play(const QString& path) {
     QString rel = path;
     if (rel.startsWith(appPath_)) rel = rel.mid(appPath_.size());
-    while (rel.startsWith(u'/')) rel.remove(0, 1);
+    while (rel.startsWith(u'/'))
+        rel.remove(0, 1);
     log_.add({{"event", "sound"}, {"file", rel}});
 }
 

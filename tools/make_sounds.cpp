@@ -20,11 +20,14 @@ struct Note {
     double volume; // 0 to 1
 };
 
-double noteFreq(int semitonesFromA4) { return 440.0 * std::pow(2.0, semitonesFromA4 / 12.0); }
+double noteFreq(int semitonesFromA4) {
+    return 440.0 * std::pow(2.0, semitonesFromA4 / 12.0);
+}
 
 std::vector<int16_t> render(const std::vector<Note>& notes, double bright) {
     double total = 0;
-    for (const Note& n : notes) total = std::max(total, n.start + n.length);
+    for (const Note& n : notes)
+        total = std::max(total, n.start + n.length);
     std::vector<double> mix(size_t(total * kRate) + 1, 0.0);
     for (const Note& n : notes) {
         const size_t from = size_t(n.start * kRate), count = size_t(n.length * kRate);
@@ -38,7 +41,8 @@ std::vector<int16_t> render(const std::vector<Note>& notes, double bright) {
         }
     }
     double peak = 1e-9;
-    for (double v : mix) peak = std::max(peak, std::abs(v));
+    for (double v : mix)
+        peak = std::max(peak, std::abs(v));
     std::vector<int16_t> out(mix.size());
     for (size_t i = 0; i < mix.size(); ++i) {
         // fade the last few milliseconds to avoid a click
@@ -48,8 +52,12 @@ std::vector<int16_t> render(const std::vector<Note>& notes, double bright) {
     return out;
 }
 
-void put32(std::ofstream& f, uint32_t v) { f.write(reinterpret_cast<const char*>(&v), 4); }
-void put16(std::ofstream& f, uint16_t v) { f.write(reinterpret_cast<const char*>(&v), 2); }
+void put32(std::ofstream& f, uint32_t v) {
+    f.write(reinterpret_cast<const char*>(&v), 4);
+}
+void put16(std::ofstream& f, uint16_t v) {
+    f.write(reinterpret_cast<const char*>(&v), 2);
+}
 
 void writeWav(const std::string& path, const std::vector<int16_t>& samples) {
     std::ofstream f(path, std::ios::binary);
@@ -80,7 +88,8 @@ int main(int argc, char** argv) {
     writeWav(dir + "/si2.wav", render({{G5, 0, .15, 1}, {C6, .13, .45, 1}}, 1));
     writeWav(dir + "/si3.wav",
              render({{E5, 0, .1, .9}, {G5, .08, .1, .9}, {C6, .16, .1, .9}, {E6, .24, .4, 1}}, .8));
-    writeWav(dir + "/si4.wav", render({{C5, 0, .6, .7}, {E5, .04, .56, .7}, {G5, .08, .52, .7}, {C6, .12, .5, .8}}, .6));
+    writeWav(dir + "/si4.wav",
+             render({{C5, 0, .6, .7}, {E5, .04, .56, .7}, {G5, .08, .52, .7}, {C6, .12, .5, .8}}, .6));
     // A wrong answer: two soft notes going down, no harshness.
     writeWav(dir + "/no.wav", render({{E4, 0, .22, .8}, {C4, .18, .4, .8}}, 0));
     // A stage done: one short blip.

@@ -9,18 +9,23 @@ namespace {
 // Draws: Z gives the bottom of every range, T its top, v(k, n) the k-th of n values.
 constexpr double Z = 0.0;
 constexpr double T = 0.999999;
-constexpr double v(int k, double n) { return (k + 0.5) / n; }
+constexpr double v(int k, double n) {
+    return (k + 0.5) / n;
+}
 
 const QString CR_LF = QStringLiteral("\r\n");
 
 // A sheet: an empty line, the heading, an empty line, then each row followed by an empty line.
 QString sheet(const QString& heading, const QStringList& rows) {
     QString s = CR_LF + heading + CR_LF + CR_LF;
-    for (const QString& r : rows) s += r + CR_LF + CR_LF;
+    for (const QString& r : rows)
+        s += r + CR_LF + CR_LF;
     return s;
 }
 
-QList<double> twice(const QList<double>& d) { return d + d; }
+QList<double> twice(const QList<double>& d) {
+    return d + d;
+}
 
 const QString kAdd = QStringLiteral("           ESEGUI LE ADDIZIONI");
 const QString kSub = QStringLiteral("           ESEGUI LE SOTTRAZIONI");
@@ -37,9 +42,9 @@ class WorksheetsTest : public QObject {
 
     // One sheet at one column over two rows, and one at six columns over one row, whose draws are
     // three exercises drawn twice.
-    static void add(const char* name, int numero, int nm, int righe, int colonne, const QList<double>& draws,
-                    const QString& foglio, const QString& correzione) {
-        QTest::newRow(name) << numero << nm << righe << colonne << draws << foglio << correzione;
+    static void add(const QByteArray& name, int numero, int nm, int righe, int colonne,
+                    const QList<double>& draws, const QString& foglio, const QString& correzione) {
+        QTest::newRow(name.constData()) << numero << nm << righe << colonne << draws << foglio << correzione;
     }
 
     // Sums: cells of 25, a margin of four on the worksheet only, five blanks at the end of a row.
@@ -62,8 +67,8 @@ class WorksheetsTest : public QObject {
         const auto row = [&](const QStringList& cells) { return margin + cells.join(gap) + gap; };
         add(QByteArray(name).append(" one column"), numero, 99, 2, 1, one,
             sheet(heading, {row({s1[0]}), row({s1[1]})}), sheet(" " + heading, {row({c1[0]}), row({c1[1]})}));
-        add(QByteArray(name).append(" six columns"), numero, 99, 1, 6, twice(six), sheet(heading, {row(s6 + s6)}),
-            sheet(" " + heading, {row(c6 + c6)}));
+        add(QByteArray(name).append(" six columns"), numero, 99, 1, 6, twice(six),
+            sheet(heading, {row(s6 + s6)}), sheet(" " + heading, {row(c6 + c6)}));
     }
 
 private slots:
@@ -80,28 +85,28 @@ private slots:
         addSums("15 sum up to 99", 15, kAdd, {v(22, 80), v(41, 77), T, T},
                 {"    41 +  23 = ______    ", "    19 +  80 = ______    "},
                 {"    41 +  23 =  64       ", "    19 +  80 =  99       "}, {Z, Z, T, T, v(9, 80), v(45, 90)},
-                {"     0 +  1 = ______     ", "    19 +  80 = ______    ", "    45 +  10 = ______    "},
-                {"     0 +  1 =  1          ", "    19 +  80 =  99       ", "    45 +  10 =  55       "});
+                {"    0 +  1 = ______      ", "    19 +  80 = ______    ", "    45 +  10 = ______    "},
+                {"    0 +  1 =  1          ", "    19 +  80 =  99       ", "    45 +  10 =  55       "});
         addSums("17 minuend up to 99", 17, kSub, {v(22, 80), v(41, 77), T, T},
                 {"    64 -  41 = ______    ", "    99 -  19 = ______    "},
                 {"    64 -  41 =  23       ", "    99 -  19 =  80       "}, {Z, Z, T, T, v(9, 80), v(45, 90)},
                 {"    1 -  0 = ______      ", "    99 -  19 = ______    ", "    55 -  45 = ______    "},
-                {"    1 -  0 =  1           ", "    99 -  19 =  80       ", "    55 -  45 =  10       "});
+                {"    1 -  0 =  1          ", "    99 -  19 =  80       ", "    55 -  45 =  10       "});
         addSums("19 add units", 19, kAdd, {v(41, 90), v(6, 9), T, T},
                 {"    41 +  7 = ______     ", "    89 +  9 = ______     "},
                 {"    41 +  7 =  48        ", "    89 +  9 =  98        "}, {Z, Z, T, T, v(41, 90), v(6, 9)},
-                {"     0 +  1 = ______     ", "    89 +  9 = ______     ", "    41 +  7 = ______     "},
-                {"     0 +  1 =  1          ", "    89 +  9 =  98        ", "    41 +  7 =  48        "});
+                {"    0 +  1 = ______      ", "    89 +  9 = ______     ", "    41 +  7 = ______     "},
+                {"    0 +  1 =  1          ", "    89 +  9 =  98        ", "    41 +  7 =  48        "});
         addSums("20 add tens", 20, kAdd, {v(2, 9), v(41, 70), T, T},
-                {"    41 +  30 = ______    ", "     9 +  90 = ______    "},
-                {"    41 +  30 =  71       ", "     9 +  90 =  99       "}, {Z, Z, T, T, v(2, 9), v(41, 70)},
-                {"     0 +  10 = ______    ", "     9 +  90 = ______    ", "    41 +  30 = ______    "},
-                {"     0 +  10 =  10       ", "     9 +  90 =  99       ", "    41 +  30 =  71       "});
+                {"    41 +  30 = ______    ", "    9 +  90 = ______     "},
+                {"    41 +  30 =  71       ", "    9 +  90 =  99        "}, {Z, Z, T, T, v(2, 9), v(41, 70)},
+                {"    0 +  10 = ______     ", "    9 +  90 = ______     ", "    41 +  30 = ______    "},
+                {"    0 +  10 =  10        ", "    9 +  90 =  99        ", "    41 +  30 =  71       "});
         addSums("21 take away units", 21, kSub, {v(41, 90), v(6, 9), T, T},
                 {"    48 -  7 = ______     ", "    98 -  9 = ______     "},
                 {"    48 -  7 =  41        ", "    98 -  9 =  89        "}, {Z, Z, T, T, v(41, 90), v(6, 9)},
                 {"    1 -  1 = ______      ", "    98 -  9 = ______     ", "    48 -  7 = ______     "},
-                {"    1 -  1 =  0           ", "    98 -  9 =  89        ", "    48 -  7 =  41        "});
+                {"    1 -  1 =  0          ", "    98 -  9 =  89        ", "    48 -  7 =  41        "});
         addSums("22 take away tens", 22, kSub, {v(2, 9), v(41, 70), T, T},
                 {"    71 -  30 = ______    ", "    99 -  90 = ______    "},
                 {"    71 -  30 =  41       ", "    99 -  90 =  9        "}, {Z, Z, T, T, v(2, 9), v(41, 70)},
@@ -110,76 +115,82 @@ private slots:
         addSums("23 add units or tens", 23, kAdd, {Z, v(7, 10), v(50, 93), T, v(3, 9), T},
                 {"    50 +  7 = ______     ", "    59 +  40 = ______    "},
                 {"    50 +  7 =  57        ", "    59 +  40 =  99       "}, {Z, Z, T, T, T, T, Z, T, Z},
-                {"    99 +  0 = ______     ", "     9 +  90 = ______    ", "     0 +  9 = ______     "},
-                {"    99 +  0 =  99        ", "     9 +  90 =  99       ", "     0 +  9 =  9          "});
+                {"    99 +  0 = ______     ", "    9 +  90 = ______     ", "    0 +  9 = ______      "},
+                {"    99 +  0 =  99        ", "    9 +  90 =  99        ", "    0 +  9 =  9          "});
         addSums("24 take away units or tens", 24, kSub, {Z, v(7, 10), v(50, 93), T, v(3, 9), T},
                 {"    57 -  7 = ______     ", "    99 -  40 = ______    "},
                 {"    57 -  7 =  50        ", "    99 -  40 =  59       "}, {Z, Z, T, T, T, T, Z, T, Z},
                 {"    99 -  0 = ______     ", "    99 -  90 = ______    ", "    9 -  9 = ______      "},
-                {"    99 -  0 =  99        ", "    99 -  90 =  9        ", "    9 -  9 =  0           "});
+                {"    99 -  0 =  99        ", "    99 -  90 =  9        ", "    9 -  9 =  0          "});
         // Digit by digit: a zero sum is drawn again, a digit of 0 draws its split all the same.
         const QList<double> digitsOne = {Z, Z, v(7, 10), v(3, 10), v(4, 7), v(2, 3), T, Z, T, 0.7};
         const QList<double> digitsSix = {Z, v(3, 10), 0.7, Z, T, T, T, T, Z, Z, v(7, 10), Z, Z, 0.7};
         addSums("16 without carrying", 16, kAdd, digitsOne,
-                {"    2 4 +  1 3 = ____    ", "    8 +  1 = ____       "},
+                {"    2 4 +  1 3 = ____    ", "    8 +  1 = ____        "},
                 {"    2 4 +  1 3 =  37     ", "    8 +  1 =  9          "}, digitsSix,
-                {"    0 +  3 0 = ____      ", "    8 8 +  1 1 = ____    ", "    0 +  7 = ____       "},
+                {"    0 +  3 0 = ____      ", "    8 8 +  1 1 = ____    ", "    0 +  7 = ____        "},
                 {"    0 +  3 0 =  30       ", "    8 8 +  1 1 =  99     ", "    0 +  7 =  7          "});
         addSums("18 without borrowing", 18, kSub, digitsOne,
-                {"    3 7 -  2 4 = ____    ", "    9 -  8 = ____       "},
+                {"    3 7 -  2 4 = ____    ", "    9 -  8 = ____        "},
                 {"    3 7 -  2 4 =  13     ", "    9 -  8 =  1          "}, digitsSix,
-                {"    3 0 -  0 = ____      ", "    9 9 -  8 8 = ____    ", "    7 -  0 = ____       "},
+                {"    3 0 -  0 = ____      ", "    9 9 -  8 8 = ____    ", "    7 -  0 = ____        "},
                 {"    3 0 -  0 =  30       ", "    9 9 -  8 8 =  11     ", "    7 -  0 =  7          "});
 
         // ---- one and ten ----
-        addSteps("9 add one", 9, kAdd8, "    ", "     ", {v(6, 98), T}, {"   7 + 1 = ___ ", "  98 + 1 = ___ "},
-                 {"   7 + 1 =    8  ", "  98 + 1 =   99  "}, {Z, T, v(6, 98)},
-                 {"   1 + 1 = ___ ", "  98 + 1 = ___ ", "   7 + 1 = ___ "},
+        addSteps("9 add one", 9, kAdd8, "    ", "     ", {v(6, 98), T},
+                 {"   7 + 1 = ___ ", "  98 + 1 = ___ "}, {"   7 + 1 =    8  ", "  98 + 1 =   99  "},
+                 {Z, T, v(6, 98)}, {"   1 + 1 = ___ ", "  98 + 1 = ___ ", "   7 + 1 = ___ "},
                  {"   1 + 1 =    2  ", "  98 + 1 =   99  ", "   7 + 1 =    8  "});
-        addSteps("10 add ten", 10, kAdd8, "    ", "     ", {v(44, 88), T}, {"  45 + 10 = ___ ", "  88 + 10 = ___ "},
-                 {"  45 + 10 =   55  ", "  88 + 10 =   98  "}, {Z, T, v(44, 88)},
-                 {"   1 + 10 = ___ ", "  88 + 10 = ___ ", "  45 + 10 = ___ "},
+        addSteps("10 add ten", 10, kAdd8, "    ", "     ", {v(44, 88), T},
+                 {"  45 + 10 = ___ ", "  88 + 10 = ___ "}, {"  45 + 10 =   55  ", "  88 + 10 =   98  "},
+                 {Z, T, v(44, 88)}, {"   1 + 10 = ___ ", "  88 + 10 = ___ ", "  45 + 10 = ___ "},
                  {"   1 + 10 =   11  ", "  88 + 10 =   98  ", "  45 + 10 =   55  "});
         addSteps("12 take away ten", 12, kSub8, "  ", "    ", {v(35, 88), T},
                  {"  45 - 10 = ___ ", "  97 - 10 = ___ "}, {"  45 - 10 =   35  ", "  97 - 10 =   87  "},
                  {Z, T, v(35, 88)}, {"  10 - 10 = ___ ", "  97 - 10 = ___ ", "  45 - 10 = ___ "},
                  {"  10 - 10 =    0  ", "  97 - 10 =   87  ", "  45 - 10 =   35  "});
-        addSteps("14 take away one", 14, kSub8, "    ", "     ", {v(6, 98), T}, {"   7 - 1 = ___ ", "  98 - 1 = ___ "},
-                 {"   7 - 1 =    6  ", "  98 - 1 =   97  "}, {Z, T, v(6, 98)},
-                 {"   1 - 1 = ___ ", "  98 - 1 = ___ ", "   7 - 1 = ___ "},
+        addSteps("14 take away one", 14, kSub8, "    ", "     ", {v(6, 98), T},
+                 {"   7 - 1 = ___ ", "  98 - 1 = ___ "}, {"   7 - 1 =    6  ", "  98 - 1 =   97  "},
+                 {Z, T, v(6, 98)}, {"   1 - 1 = ___ ", "  98 - 1 = ___ ", "   7 - 1 = ___ "},
                  {"   1 - 1 =    0  ", "  98 - 1 =   97  ", "   7 - 1 =    6  "});
         addSteps("11 add one or ten", 11, kAdd8, "  ", "    ", {Z, v(6, 98), T, T},
-                 {" 6 + 1 =  ___       ", " 87 + 10 =  ___     "}, {" 6 + 1 =  7         ", " 87 + 10 =  97      "},
-                 {Z, Z, T, Z, Z, T}, {" 0 + 1 =  ___       ", " 0 + 10 =  ___      ", " 97 + 1 =  ___      "},
+                 {" 6 + 1 =  ___       ", " 87 + 10 =  ___     "},
+                 {" 6 + 1 =  7         ", " 87 + 10 =  97      "}, {Z, Z, T, Z, Z, T},
+                 {" 0 + 1 =  ___       ", " 0 + 10 =  ___      ", " 97 + 1 =  ___      "},
                  {" 0 + 1 =  1         ", " 0 + 10 =  10       ", " 97 + 1 =  98       "});
         addSteps("13 take away one or ten", 13, kSub8, "  ", "    ", {Z, v(6, 97), T, T},
-                 {" 8 - 1 =  ___       ", " 97 - 10 =  ___     "}, {" 8 - 1 =  7         ", " 97 - 10 =  87      "},
-                 {Z, Z, T, Z, Z, T}, {" 2 - 1 =  ___       ", " 20 - 10 =  ___     ", " 98 - 1 =  ___      "},
+                 {" 8 - 1 =  ___       ", " 97 - 10 =  ___     "},
+                 {" 8 - 1 =  7         ", " 97 - 10 =  87      "}, {Z, Z, T, Z, Z, T},
+                 {" 2 - 1 =  ___       ", " 20 - 10 =  ___     ", " 98 - 1 =  ___      "},
                  {" 2 - 1 =  1         ", " 20 - 10 =  10      ", " 98 - 1 =  97       "});
 
         // ---- reading and placing ----
         // One exercise a row whatever the columns.
         for (int colonne : {1, 6}) {
-            add(qPrintable(QStringLiteral("1 words, %1 columns").arg(colonne)), 1, 99, 2, colonne,
-                {v(21, 99), Z},
+            add("1 words, " + QByteArray::number(colonne) + " columns", 1, 99, 2, colonne, {v(21, 99), Z},
                 sheet(kCifre, {"    VENTUNO  _______________", "    ZERO  _______________"}),
                 sheet(kCifre, {"    VENTUNO    21", "    ZERO    0"}));
-            add(qPrintable(QStringLiteral("8 expressions, %1 columns").arg(colonne)), 8, 99, 3, colonne,
+            add("8 expressions, " + QByteArray::number(colonne) + " columns", 8, 99, 3, colonne,
                 {v(33, 99), v(39, 99), Z},
-                sheet("       ESEGUI LE ESPRESSIONI", {"    (10 x  3) + (1 x  4) = _____       ",
-                                                      "    (10 x  4) = _____       ", "    (1 x  1) = _____       "}),
-                sheet("       ESEGUI LE ESPRESSIONI", {"    (10 x  3) + (1 x  4) =  34      ",
-                                                      "    (10 x  4) =  40      ", "    (1 x  1) =  1      "}));
+                sheet("       ESEGUI LE ESPRESSIONI",
+                      {"    (10 x  3) + (1 x  4) = _____       ", "    (10 x  4) = _____       ",
+                       "    (1 x  1) = _____       "}),
+                sheet("       ESEGUI LE ESPRESSIONI",
+                      {"    (10 x  3) + (1 x  4) =  34      ", "    (10 x  4) =  40      ",
+                       "    (1 x  1) =  1      "}));
         }
         add("2 tens and units one column", 2, 99, 2, 1, {v(3, 13), v(6, 13), T, v(10, 13), Z, T},
             sheet(kCifre, {"     4 da    7 u _____       ", "     1 da    _____       "}),
             sheet(kCifre, {"     4 da    7 u   47      ", "     1 da      10      "}));
         add("2 tens and units six columns", 2, 99, 1, 6,
             twice({Z, Z, v(11, 13), v(8, 13), T, T, v(8, 13), v(8, 13)}),
-            sheet(kCifre, {"    " + QString(" 1 da    1 u _____        9 u _____        9 da    9 u _____       ")
-                                        .repeated(2)}),
-            sheet(kCifre, {"    " + QString(" 1 da    1 u   11       9 u   9       9 da    9 u   99      ")
-                                        .repeated(2)}));
+            sheet(
+                kCifre,
+                {"    " +
+                 QString(" 1 da    1 u _____        9 u _____        9 da    9 u _____       ").repeated(2)}),
+            sheet(kCifre,
+                  {"    " +
+                   QString(" 1 da    1 u   11       9 u   9       9 da    9 u   99      ").repeated(2)}));
         const QString kSimboli = "       INSERISCI I SIMBOLI   >  <  =";
         add("3 compare one column", 3, 99, 2, 1, {v(21, 99), v(40, 99), T, Z},
             sheet(kSimboli, {"     21 _____  40     ", "     98 _____  0     "}),
@@ -199,9 +210,12 @@ private slots:
             sheet(kMezzo, {"     39 _____  41     ", "     89 _____  91     "}),
             sheet(kMezzo, {"     39   40   41     ", "     89   90   91     "}));
         add("5 middle six columns", 5, 20, 1, 6, nearSix,
-            sheet(kMezzo, {"    " + QString(" 19 _____  21      20 _____  22      9 _____  11     ").repeated(2)}),
-            sheet(kMezzo, {"    " + QString(" 19   20   21      20   21   22      9   10   11     ").repeated(2)}));
-        add("6 next one column", 6, 99, 2, 1, nearOne, sheet(kDopo, {"     39 _____      ", "     89 _____      "}),
+            sheet(kMezzo,
+                  {"    " + QString(" 19 _____  21      20 _____  22      9 _____  11     ").repeated(2)}),
+            sheet(kMezzo,
+                  {"    " + QString(" 19   20   21      20   21   22      9   10   11     ").repeated(2)}));
+        add("6 next one column", 6, 99, 2, 1, nearOne,
+            sheet(kDopo, {"     39 _____      ", "     89 _____      "}),
             sheet(kDopo, {"     39   40       ", "     89   90       "}));
         add("6 next six columns", 6, 20, 1, 6, nearSix,
             sheet(kDopo, {"    " + QString(" 19 _____       20 _____       9 _____      ").repeated(2)}),
@@ -223,7 +237,8 @@ private slots:
         QFETCH(QString, foglio);
         QFETCH(QString, correzione);
         ScriptedRandom rnd;
-        for (double d : draws) rnd.queue(d);
+        for (double d : draws)
+            rnd.queue(d);
         Modulo1 g;
         g.NumeroMassimo = static_cast<int16_t>(nm);
         const Scheda s = FaiScheda(numero, {righe, colonne, {}, {}}, g, rnd);
@@ -246,19 +261,21 @@ private slots:
         QTest::newRow("smallest first, ties kept")
             << " 3" << kAsc << 99 << draws << numbers << answers
             << QStringList{"   0        7       42     ", "  42       42       98     "};
-        QTest::newRow("largest first") << " 3" << kDesc << 99 << draws << numbers << answers
-                                       << QStringList{"  42        7        0     ", "  98       42       42     "};
+        QTest::newRow("largest first")
+            << " 3" << kDesc << 99 << draws << numbers << answers
+            << QStringList{"  42        7        0     ", "  98       42       42     "};
         // Only the exact caption reverses the order.
         QTest::newRow("largest first needs the exact caption")
             << "3" << kDesc + " " << 99 << draws << numbers << answers
             << QStringList{"   0        7       42     ", "  42       42       98     "};
         // The list sorts text: four digits don't fit the four characters and come before 999.
-        QTest::newRow("sorted as text") << "3" << kAsc << 2000 << QList<double>{v(999, 2000), v(1000, 2000), v(5, 2000), Z, Z, Z}
-                                        << QStringList{" 999     1000     5    ", " 0     0     0    "} << answers
-                                        << QStringList{"   5      1000      999     ", "   0        0        0     "};
-        QTest::newRow("ordering screen not open")
-            << "" << "" << 99 << QList<double>{} << QStringList{"", ""} << QStringList{"", ""}
-            << QStringList{"", ""};
+        QTest::newRow("sorted as text")
+            << "3" << kAsc << 2000 << QList<double>{v(999, 2000), v(1000, 2000), v(5, 2000), Z, Z, Z}
+            << QStringList{" 999     1000     5    ", " 0     0     0    "} << answers
+            << QStringList{"   5      1000      999     ", "   0        0        0     "};
+        QTest::newRow("ordering screen not open") << ""
+                                                  << "" << 99 << QList<double>{} << QStringList{"", ""}
+                                                  << QStringList{"", ""} << QStringList{"", ""};
     }
 
     // Two lines a row on the worksheet (numbers, then as many answer blanks), one on the correction;
@@ -272,11 +289,13 @@ private slots:
         QFETCH(QStringList, answers);
         QFETCH(QStringList, correction);
         ScriptedRandom rnd;
-        for (double d : draws) rnd.queue(d);
+        for (double d : draws)
+            rnd.queue(d);
         Modulo1 g;
         g.NumeroMassimo = static_cast<int16_t>(nm);
         const Scheda s = FaiScheda(4, {1, 6, rowLength, task}, g, rnd);
-        QCOMPARE(s.txtCD, sheet(task, {numbers[0] + CR_LF + CR_LF + answers[0], numbers[1] + CR_LF + CR_LF + answers[1]}));
+        QCOMPARE(s.txtCD, sheet(task, {numbers[0] + CR_LF + CR_LF + answers[0],
+                                       numbers[1] + CR_LF + CR_LF + answers[1]}));
         QCOMPARE(s.TextCor, sheet(task, correction));
         QCOMPARE(rnd.pending(), size_t(0));
     }
@@ -309,15 +328,15 @@ private slots:
         QTest::addColumn<QString>("testo");
         QTest::addColumn<int>("larghezza");
         QTest::addColumn<QString>("uscita");
-        QTest::newRow("a line that just fits goes out whole") << "aaaa bbbbb\r\ncc" << 10 << "aaaa bbbbb\r\ncc\r\n";
+        QTest::newRow("a line that just fits goes out whole")
+            << "aaaa bbbbb\r\ncc" << 10 << "aaaa bbbbb\r\ncc\r\n";
         QTest::newRow("one character too long breaks at the blank")
             << "aaaa bbbbbb\r\ncc dd" << 10 << "aaaa \r\nbbbbbb\r\ncc dd\r\n";
         QTest::newRow("a run of blanks is so many words") << "ab   cd" << 3 << "ab  \r\n cd\r\n";
         // The LF left at the head of the next line takes one of its characters.
         QTest::newRow("the LF counts in the next line")
             << "ab de\r\nfg ij\r\nk" << 5 << "ab de\r\nfg \r\nij\r\nk\r\n";
-        QTest::newRow("a word longer than a line")
-            << "abcdefghijkl mn" << 4 << "\r\nabcde\r\nfghijkl mn\r\n";
+        QTest::newRow("a word longer than a line") << "abcdefghijkl mn" << 4 << "\r\nabcde\r\nfghijkl mn\r\n";
         QTest::newRow("a long word after a started line keeps the order")
             << "xy abcdefgh z" << 4 << "xy \r\nabcdefgh z\r\n";
         QTest::newRow("outer blanks are trimmed") << "  ab cd  " << 10 << "ab cd\r\n";
