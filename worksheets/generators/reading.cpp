@@ -92,7 +92,7 @@ void FaiScheda4(const SchedaInput& in, Modulo1& g, Random& rnd, Scheda& s) {
             lista.append(Str(x).rightJustified(4));
         }
         std::ranges::stable_sort(lista, [](const QString& a, const QString& b) {
-            return QString::compare(a, b, Qt::CaseInsensitive) < 0;
+            return a.trimmed().toInt() < b.trimmed().toInt();
         });
         if (dalMaggiore) std::ranges::reverse(lista);
         s.txtCD += CRLF + CRLF;
