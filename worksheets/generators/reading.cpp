@@ -92,7 +92,7 @@ void FaiScheda4(const SchedaInput& in, Modulo1& g, Random& rnd, Scheda& s) {
             lista.append(Str(x).rightJustified(4));
         }
         std::ranges::stable_sort(lista, [](const QString& a, const QString& b) {
-            return a.trimmed().toInt() < b.trimmed().toInt();
+            return QString::compare(a, b, Qt::CaseInsensitive) < 0;
         });
         if (dalMaggiore) std::ranges::reverse(lista);
         s.txtCD += CRLF + CRLF;
@@ -135,7 +135,8 @@ template <int i> void FaiSchedaVicino(const SchedaInput& in, Modulo1& g, Random&
         for (int c = 1; c <= colonne; ++c) {
             int n = Draw(rnd, 3, 1) == 1 ? Draw(rnd, g.NumeroMassimo / 10.0) * 10 - m.e
                                          : Draw(rnd, g.NumeroMassimo, 1);
-            // Nothing at or below 0 to ask about, and no neighbour of 99 beyond the hundred.
+            // 0 and below, and 99, are moved onto a change of ten: 19 and 89 come up more often
+            // than the numbers beside them.
             if (n <= 0) n = 19;
             if (n == 99) n = 89;
             const Celle e = m.celle(n);
