@@ -1,0 +1,97 @@
+// How quick the screens are, offscreen: the first screen against a bare Qt window, the way from the
+// main menu to the first question of "più 1", and one question answered and the next one drawn.
+// Run: QT_QPA_PLATFORM=offscreen build/contarello-bench
+
+#include "driver/engine.h"
+#include "shell/forms.h"
+#include "shell/qtservices.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <benchmark/benchmark.h>
+
+using namespace contarello;
+
+namespace {
+
+QJsonObject cmd(const char* json) { return QJsonDocument::fromJson(json).object(); }
+
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// A window the size of an exercise screen, shown and painted once.
+void BM_BareQtWindow(benchmark::State& state) {
+    for (auto _ : state) {
+        QWidget w(nullptr, Qt::Window | Qt::FramelessWindowHint);
+        w.setFixedSize(633, 434);
+        w.show();
+        w.repaint();
+        settle();
+    }
+}
+BENCHMARK(BM_BareQtWindow)->Unit(benchmark::kMicrosecond);
+
+// Main: the random sequence seeded, the settings, the start screen made, shown and painted.
+void BM_StartToFormAvvio(benchmark::State& state) {
+    for (auto _ : state) {
+        auto engine = std::make_unique<DriverEngine>();
+        Main(engine->program());
+        engine->program().nav.active()->repaint();
+        settle();
+        state.PauseTiming();
+        engine.reset();
+        settle();
+        state.ResumeTiming();
+    }
+}
+
+void BM_MenuToFirstQuestion(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto engine = std::make_unique<DriverEngine>();
+        engine->execute(cmd(R"({"click": "BottoneAvvio"})"));
+        state.ResumeTiming();
+        engine->execute(cmd(R"({"click": "Command3"})"));
+        engine->execute(cmd(R"({"click": "Command37"})"));
+        engine->program().nav.active()->repaint();
+        state.PauseTiming();
+        engine.reset();
+        settle();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_MenuToFirstQuestion)->Unit(benchmark::kMicrosecond);
+
+void BM_AnsweredQuestion(benchmark::State& state) {
+    DriverEngine engine;
+    engine.execute(cmd(R"({"click": "BottoneAvvio"})"));
+    engine.execute(cmd(R"({"click": "Command3"})"));
+    engine.execute(cmd(R"({"click": "Command37"})"));
+    Form* form1 = engine.program().nav.active();
+    for (auto _ : state) {
+        const QString answer = QString::number(engine.program().g.NumeroEsatto);
+        engine.execute({{"settext", "Text1"}, {"text", answer}});
+        engine.execute(cmd(R"({"key": "Text1", "code": 13})"));
+        engine.execute(cmd(R"({"click": "BottoneAvanti"})"));
+        form1->repaint();
+        state.PauseTiming();
+        engine.execute(cmd(R"({"dump": true})")); // drops the events kept for the driver
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_AnsweredQuestion)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    PrepareToolkit(app);
+    benchmark::RegisterBenchmark("BM_StartToFormAvvio", BM_StartToFormAvvio)->Unit(benchmark::kMicrosecond);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Installs the Debian packages Contarello needs to build, run and test, those that are missing only.
+# Works as root and through sudo.
+set -euo pipefail
+
+PACKAGES=(
+    g++ cmake make pkg-config
+    qt6-base-dev qt6-multimedia-dev   # widgets, print support, test, sounds
+    qt6-translations-l10n             # "Sì", "No", "Annulla" in Qt's own boxes
+    fonts-liberation2                 # the screens are laid out for Arial's metrics
+    libbenchmark-dev                  # the benchmark
+)
+
+missing=()
+for p in "${PACKAGES[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+sudo=""
+[ "$(id -u)" -ne 0 ] && sudo="sudo"
+echo "Installing: ${missing[*]}"
+$sudo apt-get update -q
+$sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"

@@ -1,0 +1,183 @@
+// The start screen, the main menu with its two settings, the way out, and the colours every
+// screen draws.
+
+#include "shell/colori.h"
+#include "support/harness.h"
+
+#include <QTest>
+
+using namespace contarello;
+using namespace contarello::test;
+
+class MenusTest : public QObject {
+    Q_OBJECT
+private slots:
+    void startScreenDrawsItsColourFirst() {
+        Harness h;
+        h.rnd({17.5 / 18}); // slot 18
+        QCOMPARE(h.form(), QStringLiteral("FormAvvio"));
+        const QJsonObject d = h.dump();
+        QCOMPARE(d.value("backcolor").toString(), QStringLiteral("#ff00ff"));
+        QCOMPARE(h.caption("Label2(0)"), QStringLiteral("  Contarello"));
+        QCOMPARE(h.caption("Label2(1)"), QStringLiteral("Calcolario"));
+        QCOMPARE(h.caption("BottoneAvvio"), QStringLiteral("Avvio"));
+        QCOMPARE(h.global("NumeroMassimo"), 99);
+        QCOMPARE(h.global("AttendiBottone"), -1);
+        // Main seeds first; each screen loads and activates before the one it leaves goes
+        h.run(R"({"click": "BottoneAvvio"})");
+        QStringList seen;
+        for (const QJsonValue& e : h.events())
+            seen << e.toObject().value("event").toString() + ' ' + e.toObject().value("form").toString();
+        QCOMPARE(seen, (QStringList{"randomize ", "load FormAvvio", "activate FormAvvio", "load FormMenu",
+                                    "activate FormMenu", "unload FormAvvio"}));
+    }
+
+    void theLimitFromTheMainMenu_data() {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<int>("stored"); // 0: refused
+        QTest::newRow("lowest taken") << "20" << 20;
+        QTest::newRow("highest taken") << "99" << 99;
+        QTest::newRow("19 refused") << "19" << 0;
+        QTest::newRow("100 refused") << "100" << 0;
+        QTest::newRow("words after the number") << "25 anni" << 25;
+        QTest::newRow("exponent") << "2e1" << 20;
+        QTest::newRow("a comma stops the number") << "19,5" << 0;
+        QTest::newRow("19.4 passes and stores 19") << "19.4" << 19;
+        QTest::newRow("19.5 stores 20") << "19.5" << 20;
+        QTest::newRow("99.4 stores 99") << "99.4" << 99;
+        QTest::newRow("99.5 stores 100") << "99.5" << 100;
+        QTest::newRow("Cancel or empty") << "" << 0;
+        QTest::newRow("no number") << "tanti" << 0;
+        QTest::newRow("negative") << "-50" << 0;
+        QTest::newRow("huge") << QString(400, u'9') << 0;
+    }
+    void theLimitFromTheMainMenu() {
+        QFETCH(QString, entry);
+        QFETCH(int, stored);
+        Harness h;
+        h.run(R"({"click": "BottoneAvvio"})");
+        h.events();
+        h.engine.execute({{"inputbox", QJsonArray{entry}}});
+        h.run(R"({"click": "Command4"})");
+        const QJsonArray boxes = h.events();
+        const QJsonObject input = boxes.at(0).toObject();
+        QCOMPARE(input.value("event").toString(), QStringLiteral("inputbox"));
+        QCOMPARE(input.value("prompt").toString(), QStringLiteral("Scrivi un numero da 20 a 99"));
+        QCOMPARE(input.value("default").toString(), QStringLiteral("99"));
+        QCOMPARE(h.global("NumeroMassimo"), stored ? stored : 99);
+        if (stored) {
+            QCOMPARE(boxes.size(), 1); // no confirmation
+        } else {
+            const QJsonObject refusal = boxes.at(1).toObject();
+            QCOMPARE(refusal.value("text").toString(), QStringLiteral("Scelta non accettabile"));
+            QCOMPARE(refusal.value("style").toInt(), 16);
+            QCOMPARE(boxes.size(), 2); // asked once only
+        }
+    }
+
+    void theLimitHoldsForTheNextExerciseAndTheNextAsk() {
+        Harness h;
+        h.run(R"({"click": "BottoneAvvio"})");
+        h.run(R"({"inputbox": ["20"]})");
+        h.run(R"({"click": "Command4"})");
+        h.run(R"({"click": "Command4"})"); // untouched box: OK on the default
+        QCOMPARE(h.events("inputbox").at(1).toObject().value("default").toString(), QStringLiteral("20"));
+        h.run(R"({"click": "Command3"})");
+        h.rnd({0.999999, 0.0});
+        h.run(R"({"click": "Command37"})");
+        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 19 + 1 = "));
+    }
+
+    void theWaitingSettingIsShownAgainOnReturn() {
+        Harness h;
+        h.run(R"({"click": "BottoneAvvio"})");
+        QVERIFY(h.control("Option1(1)").value("value").toBool());
+        QVERIFY(!h.control("Option1(0)").value("value").toBool());
+        const QString colour = h.dump().value("backcolor").toString();
+        QCOMPARE(h.control("Option1(0)").value("backcolor").toString(), colour);
+        h.run(R"({"click": "Option1(0)"})");
+        h.run(R"({"click": "Command3"})");
+        h.run(R"({"click": "Command1"})");
+        QCOMPARE(h.form(), QStringLiteral("FormMenu"));
+        QVERIFY(h.control("Option1(0)").value("value").toBool());
+        QCOMPARE(h.global("AttendiBottone"), 0);
+        h.run(R"({"click": "Option1(1)"})");
+        QCOMPARE(h.global("AttendiBottone"), -1);
+    }
+
+    void leavingTheProgram() {
+        Harness h;
+        h.run(R"({"click": "BottoneAvvio"})");
+        h.run(R"({"msgbox": [7]})");
+        h.run(R"({"click": "Command1"})");
+        QCOMPARE(h.form(), QStringLiteral("FormMenu"));
+        const QJsonObject box = h.events("msgbox").at(0).toObject();
+        QCOMPARE(box.value("text").toString(), QStringLiteral("Vuoi uscire dal programma?"));
+        QCOMPARE(box.value("style").toInt(), 36);
+        h.run(R"({"msgbox": [6]})");
+        h.run(R"({"click": "Command1"})");
+        const QJsonObject d = h.dump();
+        QVERIFY(d.value("ended").toBool());
+        // ends at once, without unloading: the menu is still there in the last state
+        QCOMPARE(d.value("loaded").toArray(), QJsonArray{"FormMenu"});
+        QVERIFY(!h.engine.execute({{"click", "Command2"}}).value("ok").toBool());
+    }
+
+    void menuCaptionsKeepTheirBlanks_data() {
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("tens and units") << "Command3" << "Command8" << "da  u";
+        QTest::newRow("carry") << "Command3" << "Command22" << "addizioni in colonna              con il cambio";
+        QTest::newRow("no carry") << "Command3" << "Command21" << "addizioni in colonna         senza cambio";
+        QTest::newRow("abacus, three blanks") << "Command2" << "Command25" << "sottrazioni   con il cambio";
+        QTest::newRow("leading blank") << "Command2" << "Command29" << " aggiungi decine";
+        QTest::newRow("main menu option") << "" << "Option1(0)" << "prosegue automaticamente  negli esercizi";
+    }
+    void menuCaptionsKeepTheirBlanks() {
+        QFETCH(QString, menu);
+        QFETCH(QString, button);
+        QFETCH(QString, caption);
+        Harness h;
+        h.run(R"({"click": "BottoneAvvio"})");
+        if (!menu.isEmpty()) h.run(QStringLiteral(R"({"click": "%1"})").arg(menu));
+        QCOMPARE(h.caption(button), caption);
+    }
+
+    void exerciseMenusGoBackToTheMainMenu() {
+        Harness h;
+        h.run(R"({"click": "BottoneAvvio"})");
+        for (const char* menu : {"Command2", "Command3"}) {
+            h.run(QStringLiteral(R"({"click": "%1"})").arg(menu));
+            h.run(R"({"click": "Command1"})");
+            QCOMPARE(h.form(), QStringLiteral("FormMenu"));
+            QCOMPARE(h.dump().value("loaded").toArray().size(), 1);
+        }
+    }
+
+    void colourVariants_data() {
+        QTest::addColumn<int>("variant");
+        QTest::addColumn<int>("slot");
+        QTest::addColumn<QString>("colour");
+        QTest::newRow("A 3") << 0 << 3 << "#ff0000";
+        QTest::newRow("A 17") << 0 << 17 << "#0000ff";
+        QTest::newRow("B 3 repeats 6") << 1 << 3 << "#ffffc0";
+        QTest::newRow("B 17 repeats 9") << 1 << 17 << "#80ff80";
+        QTest::newRow("C 3 repeats 4") << 2 << 3 << "#ffc080";
+        QTest::newRow("C 9") << 2 << 9 << "#ffc0ff";
+        QTest::newRow("D 3 repeats 1") << 3 << 3 << "#ffc0c0";
+        QTest::newRow("D 17") << 3 << 17 << "#ffc0ff";
+        QTest::newRow("shared 15 repeats 14") << 3 << 15 << "#ffc0ff";
+        QTest::newRow("shared first") << 2 << 1 << "#ffc0c0";
+        QTest::newRow("shared last") << 1 << 18 << "#ff00ff";
+    }
+    void colourVariants() {
+        QFETCH(int, variant);
+        QFETCH(int, slot);
+        QFETCH(QString, colour);
+        QCOMPARE(ColoreSlot(Variante(variant), slot).name(), colour);
+    }
+};
+
+QTEST_MAIN(MenusTest)
+#include "menus.moc"
