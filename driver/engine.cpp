@@ -149,6 +149,13 @@ QJsonObject DriverEngine::execute(const QJsonObject& command) {
         }
     if (verb.isEmpty()) return fail(QStringLiteral("unknown command"));
 
+    bool setup = false;
+    for (const char* c : kSetupCommands) setup = setup || verb == QLatin1String(c);
+    if (!setup && !started_ && !app_->nav.ended()) {
+        started_ = true;
+        Main(*app_);
+        settle();
+    }
     if (verb == u"dump") {
         const QJsonValue which = command.value(QStringLiteral("dump"));
         Form* form = app_->nav.active();
@@ -158,17 +165,8 @@ QJsonObject DriverEngine::execute(const QJsonObject& command) {
         }
         return dump(form);
     }
-    if (app_->nav.ended()) return fail(QStringLiteral("the program has ended"));
 
-    bool setup = false;
-    for (const char* c : kSetupCommands)
-        setup = setup || verb == QLatin1String(c);
-    if (!setup && !started_) {
-        started_ = true;
-        Main(*app_);
-        settle();
-        if (app_->nav.ended()) return fail(QStringLiteral("the program has ended"));
-    }
+    if (app_->nav.ended()) return fail(QStringLiteral("the program has ended"));
     QJsonObject answer = act(verb, command);
     settle();
     return answer;

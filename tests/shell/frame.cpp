@@ -15,14 +15,14 @@ double drawFor(int e) { return (e - 1 + 0.5) / 99.0; }
 
 // Opens "più 1" from the menus with the question " 11 + 1 = " and the first colour slot.
 void openForm1(Harness& h, int e = 12) {
-    h.run(R"({"click": "BottoneAvvio"})");
-    h.run(R"({"click": "Command3"})");
+    h.run(R"J({"click": "BottoneAvvio"})J");
+    h.run(R"J({"click": "Command3"})J");
     h.rnd({drawFor(e), 0.0});
-    h.run(R"({"click": "Command37"})");
+    h.run(R"J({"click": "Command37"})J");
     h.events();
 }
 
-void enter(Harness& h) { h.run(R"({"key": "Text1", "code": 13})"); }
+void enter(Harness& h) { h.run(R"J({"key": "Text1", "code": 13})J"); }
 
 } // namespace
 
@@ -64,7 +64,7 @@ private slots:
         QFETCH(bool, right);
         Harness h;
         openForm1(h, 12);
-        h.run(QStringLiteral(R"({"type": "Text1", "text": "%1"})").arg(typed));
+        h.run(QStringLiteral(R"J({"type": "Text1", "text": "%1"})J").arg(typed));
         QCOMPARE(h.global("Esatti") + h.global("Errati"), 0); // nothing is taken before Enter
         h.rnd({0.6});                                         // the cheerful sound: Int(0.6 * 4) + 1
         enter(h);
@@ -87,8 +87,8 @@ private slots:
         Harness h;
         openForm1(h);
         enter(h);
-        h.run(R"({"type": "Text1", "text": "12"})");
-        h.run(R"({"key": "Text1", "code": 65})");
+        h.run(R"J({"type": "Text1", "text": "12"})J");
+        h.run(R"J({"key": "Text1", "code": 65})J");
         QCOMPARE(h.global("Esatti") + h.global("Errati"), 0);
         QVERIFY(h.sounds().isEmpty());
     }
@@ -96,8 +96,8 @@ private slots:
     void enterHeldDownCountsOnce() {
         Harness h;
         openForm1(h);
-        h.run(R"({"type": "Text1", "text": "5"})");
-        h.run(R"({"key": "Text1", "code": 13, "repeat": 5})");
+        h.run(R"J({"type": "Text1", "text": "5"})J");
+        h.run(R"J({"key": "Text1", "code": 13, "repeat": 5})J");
         QCOMPARE(h.global("Errati"), 1);
         QCOMPARE(h.sounds().size(), 1);
     }
@@ -106,10 +106,10 @@ private slots:
         Harness h;
         openForm1(h, 40);
         const QString colour = h.dump().value("backcolor").toString();
-        h.run(R"({"type": "Text1", "text": "4"})");
+        h.run(R"J({"type": "Text1", "text": "4"})J");
         enter(h);
         enter(h);
-        h.run(R"({"type": "Text1", "text": "1"})");
+        h.run(R"J({"type": "Text1", "text": "1"})J");
         enter(h);
         QCOMPARE(h.global("Errati"), 3);
         QCOMPARE(h.caption("EtichettaErrati"), QStringLiteral(" 3"));
@@ -118,8 +118,8 @@ private slots:
         QCOMPARE(h.dump().value("backcolor").toString(), colour);
         QCOMPARE(h.dump().value("focus").toString(), QStringLiteral("Text1"));
         // mended, it is right, and the sad face gives way
-        h.run(R"({"key": "Text1", "code": 8})");
-        h.run(R"({"type": "Text1", "text": "0"})");
+        h.run(R"J({"key": "Text1", "code": 8})J");
+        h.run(R"J({"type": "Text1", "text": "0"})J");
         enter(h);
         QCOMPARE(h.global("Esatti"), 1);
         QVERIFY(h.visible("ComandoIconaSi"));
@@ -128,10 +128,10 @@ private slots:
     void avantiDrawsTheNextQuestion() {
         Harness h;
         openForm1(h, 12);
-        h.run(R"({"type": "Text1", "text": "12"})");
+        h.run(R"J({"type": "Text1", "text": "12"})J");
         enter(h);
         h.rnd({drawFor(99), 16.5 / 18}); // 98 + 1, colour slot 17 (#0000ff in this variant)
-        h.run(R"({"click": "BottoneAvanti"})");
+        h.run(R"J({"click": "BottoneAvanti"})J");
         QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 98 + 1 = "));
         QCOMPARE(h.dump().value("backcolor").toString(), QStringLiteral("#0000ff"));
         QVERIFY(h.enabled("Text1"));
@@ -140,19 +140,19 @@ private slots:
         QVERIFY(h.visible("ComandoIconaSi")); // the face stays until the next answer
         QCOMPARE(h.caption("EtichettaEsatti"), QStringLiteral(" 1"));
         // while waiting, the box takes no keys
-        QCOMPARE(h.run(R"({"click": "BottoneAvanti"})").value("ignored").toString(), QStringLiteral("disabled"));
+        QCOMPARE(h.run(R"J({"click": "BottoneAvanti"})J").value("ignored").toString(), QStringLiteral("disabled"));
     }
 
     void withoutAvantiTheNextQuestionComesAtOnce() {
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
-        h.run(R"({"click": "Option1(0)"})");
+        h.run(R"J({"click": "BottoneAvvio"})J");
+        h.run(R"J({"click": "Option1(0)"})J");
         QCOMPARE(h.global("AttendiBottone"), 0);
-        h.run(R"({"click": "Command3"})");
+        h.run(R"J({"click": "Command3"})J");
         h.rnd({drawFor(12), 0.0});
-        h.run(R"({"click": "Command37"})");
+        h.run(R"J({"click": "Command37"})J");
         QVERIFY(!h.visible("BottoneAvanti"));
-        h.run(R"({"type": "Text1", "text": "12"})");
+        h.run(R"J({"type": "Text1", "text": "12"})J");
         h.rnd({0.0, drawFor(30), 0.0}); // the sound, then the next question
         enter(h);
         QCOMPARE(h.global("Esatti"), 1);
@@ -171,14 +171,14 @@ private slots:
         QFETCH(bool, waiting);
         Harness h;
         openForm1(h, 12);
-        h.run(R"({"type": "Text1", "text": "3"})");
+        h.run(R"J({"type": "Text1", "text": "3"})J");
         enter(h);
         if (waiting) {
-            h.run(R"({"settext": "Text1", "text": "12"})");
+            h.run(R"J({"settext": "Text1", "text": "12"})J");
             enter(h);
         }
         const QString question = h.caption("EtichettaNumero");
-        h.run(R"({"menu": "MenuAzzera"})");
+        h.run(R"J({"menu": "MenuAzzera"})J");
         QCOMPARE(h.caption("EtichettaEsatti"), QStringLiteral("0"));
         QCOMPARE(h.caption("EtichettaErrati"), QStringLiteral("0"));
         QCOMPARE(h.global("Esatti"), 0);
@@ -192,23 +192,23 @@ private slots:
     void leavingAsksFirst() {
         Harness h;
         openForm1(h);
-        h.run(R"({"type": "Text1", "text": "3"})");
+        h.run(R"J({"type": "Text1", "text": "3"})J");
         enter(h);
-        h.run(R"({"msgbox": [7]})");
-        h.run(R"({"menu": "mnuEsci"})");
+        h.run(R"J({"msgbox": [7]})J");
+        h.run(R"J({"menu": "mnuEsci"})J");
         QCOMPARE(h.form(), QStringLiteral("Form1"));
         const QJsonObject box = h.events("msgbox").at(0).toObject();
         QCOMPARE(box.value("text").toString(), QStringLiteral("Vuoi tornare al menù?"));
         QCOMPARE(box.value("style").toInt(), 36);
         QCOMPARE(box.value("title").toString(), QStringLiteral("Contarello"));
 
-        h.run(R"({"msgbox": [6]})");
-        h.run(R"({"menu": "mnuEsci"})");
+        h.run(R"J({"msgbox": [6]})J");
+        h.run(R"J({"menu": "mnuEsci"})J");
         QCOMPARE(h.form(), QStringLiteral("FormMenu"));
         QCOMPARE(h.dump().value("loaded").toArray(), QJsonArray{"FormMenu"});
         // the next visit starts from nothing
-        h.run(R"({"click": "Command3"})");
-        h.run(R"({"click": "Command37"})");
+        h.run(R"J({"click": "Command3"})J");
+        h.run(R"J({"click": "Command37"})J");
         QCOMPARE(h.caption("EtichettaErrati"), QStringLiteral("0"));
         QCOMPARE(h.global("Errati"), 0);
         QVERIFY(h.visible("ComandoIconaNo"));
@@ -218,7 +218,7 @@ private slots:
     void informazioni() {
         Harness h;
         openForm1(h);
-        h.run(R"({"menu": "MenuInformazioni"})");
+        h.run(R"J({"menu": "MenuInformazioni"})J");
         const QJsonObject box = h.events("msgbox").at(0).toObject();
         const QStringList lines = box.value("text").toString().split("\r\n");
         QCOMPARE(lines.size(), 4);
@@ -232,7 +232,7 @@ private slots:
     void pastedTextIsFilteredToo() {
         Harness h;
         openForm1(h, 12);
-        h.run(R"({"settext": "Text1", "text": "dodici 1\t2\n"})");
+        h.run(R"J({"settext": "Text1", "text": "dodici 1\t2\n"})J");
         enter(h);
         QCOMPARE(h.global("Esatti"), 1);
         QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 11 + 1 = dodici 1\t2\n"));
@@ -241,7 +241,7 @@ private slots:
     void printingSetsTheWorksheetNumber() {
         Harness h;
         openForm1(h);
-        h.run(R"({"menu": "mnuStampa"})");
+        h.run(R"J({"menu": "mnuStampa"})J");
         QCOMPARE(h.global("NumeroScheda"), 9);
     }
 };

@@ -24,7 +24,7 @@ private slots:
         QCOMPARE(h.global("NumeroMassimo"), 99);
         QCOMPARE(h.global("AttendiBottone"), -1);
         // Main seeds first; each screen loads and activates before the one it leaves goes
-        h.run(R"({"click": "BottoneAvvio"})");
+        h.run(R"J({"click": "BottoneAvvio"})J");
         QStringList seen;
         for (const QJsonValue& e : h.events())
             seen << e.toObject().value("event").toString() + ' ' + e.toObject().value("form").toString();
@@ -55,10 +55,10 @@ private slots:
         QFETCH(QString, entry);
         QFETCH(int, stored);
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
+        h.run(R"J({"click": "BottoneAvvio"})J");
         h.events();
         h.engine.execute({{"inputbox", QJsonArray{entry}}});
-        h.run(R"({"click": "Command4"})");
+        h.run(R"J({"click": "Command4"})J");
         const QJsonArray boxes = h.events();
         const QJsonObject input = boxes.at(0).toObject();
         QCOMPARE(input.value("event").toString(), QStringLiteral("inputbox"));
@@ -77,45 +77,45 @@ private slots:
 
     void theLimitHoldsForTheNextExerciseAndTheNextAsk() {
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
-        h.run(R"({"inputbox": ["20"]})");
-        h.run(R"({"click": "Command4"})");
-        h.run(R"({"click": "Command4"})"); // untouched box: OK on the default
+        h.run(R"J({"click": "BottoneAvvio"})J");
+        h.run(R"J({"inputbox": ["20"]})J");
+        h.run(R"J({"click": "Command4"})J");
+        h.run(R"J({"click": "Command4"})J"); // untouched box: OK on the default
         QCOMPARE(h.events("inputbox").at(1).toObject().value("default").toString(), QStringLiteral("20"));
-        h.run(R"({"click": "Command3"})");
+        h.run(R"J({"click": "Command3"})J");
         h.rnd({0.999999, 0.0});
-        h.run(R"({"click": "Command37"})");
+        h.run(R"J({"click": "Command37"})J");
         QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 19 + 1 = "));
     }
 
     void theWaitingSettingIsShownAgainOnReturn() {
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
+        h.run(R"J({"click": "BottoneAvvio"})J");
         QVERIFY(h.control("Option1(1)").value("value").toBool());
         QVERIFY(!h.control("Option1(0)").value("value").toBool());
         const QString colour = h.dump().value("backcolor").toString();
         QCOMPARE(h.control("Option1(0)").value("backcolor").toString(), colour);
-        h.run(R"({"click": "Option1(0)"})");
-        h.run(R"({"click": "Command3"})");
-        h.run(R"({"click": "Command1"})");
+        h.run(R"J({"click": "Option1(0)"})J");
+        h.run(R"J({"click": "Command3"})J");
+        h.run(R"J({"click": "Command1"})J");
         QCOMPARE(h.form(), QStringLiteral("FormMenu"));
         QVERIFY(h.control("Option1(0)").value("value").toBool());
         QCOMPARE(h.global("AttendiBottone"), 0);
-        h.run(R"({"click": "Option1(1)"})");
+        h.run(R"J({"click": "Option1(1)"})J");
         QCOMPARE(h.global("AttendiBottone"), -1);
     }
 
     void leavingTheProgram() {
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
-        h.run(R"({"msgbox": [7]})");
-        h.run(R"({"click": "Command1"})");
+        h.run(R"J({"click": "BottoneAvvio"})J");
+        h.run(R"J({"msgbox": [7]})J");
+        h.run(R"J({"click": "Command1"})J");
         QCOMPARE(h.form(), QStringLiteral("FormMenu"));
         const QJsonObject box = h.events("msgbox").at(0).toObject();
         QCOMPARE(box.value("text").toString(), QStringLiteral("Vuoi uscire dal programma?"));
         QCOMPARE(box.value("style").toInt(), 36);
-        h.run(R"({"msgbox": [6]})");
-        h.run(R"({"click": "Command1"})");
+        h.run(R"J({"msgbox": [6]})J");
+        h.run(R"J({"click": "Command1"})J");
         const QJsonObject d = h.dump();
         QVERIFY(d.value("ended").toBool());
         // ends at once, without unloading: the menu is still there in the last state
@@ -139,17 +139,17 @@ private slots:
         QFETCH(QString, button);
         QFETCH(QString, caption);
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
-        if (!menu.isEmpty()) h.run(QStringLiteral(R"({"click": "%1"})").arg(menu));
+        h.run(R"J({"click": "BottoneAvvio"})J");
+        if (!menu.isEmpty()) h.run(QStringLiteral(R"J({"click": "%1"})J").arg(menu));
         QCOMPARE(h.caption(button), caption);
     }
 
     void exerciseMenusGoBackToTheMainMenu() {
         Harness h;
-        h.run(R"({"click": "BottoneAvvio"})");
+        h.run(R"J({"click": "BottoneAvvio"})J");
         for (const char* menu : {"Command2", "Command3"}) {
-            h.run(QStringLiteral(R"({"click": "%1"})").arg(menu));
-            h.run(R"({"click": "Command1"})");
+            h.run(QStringLiteral(R"J({"click": "%1"})J").arg(menu));
+            h.run(R"J({"click": "Command1"})J");
             QCOMPARE(h.form(), QStringLiteral("FormMenu"));
             QCOMPARE(h.dump().value("loaded").toArray().size(), 1);
         }
