@@ -1,5 +1,7 @@
 // The program: real services, the table of screens, and Main.
 
+#include "shell/firstpaint.h"
+#include "shell/forms.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
 #include "shell/registry.h"
@@ -20,5 +22,7 @@ int main(int argc, char** argv) {
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
     Main(app);
     if (app.nav.ended()) return 0;
+    if (qEnvironmentVariableIsSet("CONTARELLO_EXIT_AFTER_FIRST_PAINT"))
+        app.nav.active()->installEventFilter(new ExitAfterFirstPaint(&application));
     return application.exec();
 }

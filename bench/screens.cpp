@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QJsonDocument>
+#include <QProcess>
 #include <benchmark/benchmark.h>
 
 using namespace contarello;
@@ -20,6 +21,25 @@ void settle() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
+
+// Whole processes, from launch to the first window painted: a bare Qt window against the program's
+// start screen. The program quits there when CONTARELLO_EXIT_AFTER_FIRST_PAINT is set.
+void runToFirstPaint(benchmark::State& state, const QString& program) {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("CONTARELLO_EXIT_AFTER_FIRST_PAINT"), QStringLiteral("1"));
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    const QString path = QCoreApplication::applicationDirPath() + u'/' + program;
+    for (auto _ : state) {
+        QProcess p;
+        p.setProcessEnvironment(env);
+        p.start(path, {});
+        if (!p.waitForFinished(10000) || p.exitCode() != 0) state.SkipWithError("the program did not finish");
+    }
+}
+void BM_ProcessBareQtWindow(benchmark::State& state) { runToFirstPaint(state, QStringLiteral("contarello-bare-window")); }
+void BM_ProcessToFormAvvio(benchmark::State& state) { runToFirstPaint(state, QStringLiteral("contarello")); }
+BENCHMARK(BM_ProcessBareQtWindow)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(BM_ProcessToFormAvvio)->Unit(benchmark::kMillisecond)->Iterations(20);
 
 // A window the size of an exercise screen, shown and painted once.
 void BM_BareQtWindow(benchmark::State& state) {
