@@ -57,8 +57,18 @@ void QtSound::play(const QString& path) {
     playing_ = effect;
 }
 
+namespace {
+// The boxes are read by a parent or a teacher beside the child: a size that reads from a step back.
+QFont kBoxFont() {
+    QFont f(QStringLiteral("Arial"));
+    f.setPointSizeF(12);
+    return f;
+}
+} // namespace
+
 int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
     QMessageBox box(QApplication::activeWindow());
+    box.setFont(kBoxFont());
     box.setWindowTitle(title);
     box.setText(text);
     switch (style & 0xF0) {
