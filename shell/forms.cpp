@@ -279,8 +279,14 @@ void CommandButton::paintEvent(QPaintEvent*) {
                          : palette().color(QPalette::Disabled, QPalette::ButtonText));
     // A picture stands above the caption; the caption wraps at blanks, as long menu captions need.
     if (!picture_.isNull()) {
-        const QSize ps = picture_.size().scaled(area.size(), Qt::KeepAspectRatio).boundedTo(picture_.size());
-        const int textHeight = caption_.isEmpty() ? 0 : p.fontMetrics().height();
+        // A caption of two lines takes its room first; the picture shrinks into what is left.
+        const int textHeight =
+            caption_.isEmpty()
+                ? 0
+                : std::min(area.height() / 2,
+                           p.fontMetrics().boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, caption_).height());
+        const QSize room(area.width(), area.height() - textHeight);
+        const QSize ps = picture_.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture_.size());
         const int top = area.top() + (area.height() - ps.height() - textHeight) / 2;
         const QRect pic(area.left() + (area.width() - ps.width()) / 2, top, ps.width(), ps.height());
         if (isEnabled())
@@ -744,9 +750,10 @@ bool Form::event(QEvent* e) {
     if (e->type() == QEvent::WindowActivate) {
         app.nav.windowActivated(this);
     } else if (e->type() == QEvent::Close) {
-        // Only a screen with a title bar can be closed from outside: that unloads it.
+        // A child leaves only by the program's own buttons and menus: the window system's close (the
+        // close box of the one screen with a title bar, or a key) only asks the screen what to do.
         e->ignore();
-        if (app.nav.find(name()) == this) app.nav.Unload(this);
+        if (app.nav.find(name()) == this && !app.nav.ended()) CloseBox();
         return true;
     }
     return QWidget::event(e);

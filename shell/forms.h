@@ -342,6 +342,8 @@ public:
     virtual void Load() {}
     virtual void Activate() {}
     virtual void Unload() {}
+    // The window system asks the screen to close; by default nothing happens.
+    virtual void CloseBox() {}
     // Extra private state for the driver's dump, where it helps a test.
     virtual QJsonObject fields() const { return {}; }
 

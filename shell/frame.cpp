@@ -52,12 +52,14 @@ ExerciseForm::ExerciseForm(Program& program, const QString& name, Variante varia
     MenuAzzera->Click = [this] { AzzeraConteggio(); };
     mnuStampa->Click = [this] { mnuStampa_Click(); };
     MenuInformazioni->Click = [this] { MostraInformazioni(app); };
-    mnuEsci->Click = [this] {
-        if (app.dialogs.MsgBox(QStringLiteral("Vuoi tornare al menù?"), vbYesNoQuestion, kTitolo) == vbYes) {
-            Show(QStringLiteral("FormMenu"));
-            UnloadMe();
-        }
-    };
+    mnuEsci->Click = [this] { mnuEsci_Click(); };
+}
+
+void ExerciseForm::mnuEsci_Click() {
+    if (app.dialogs.MsgBox(QStringLiteral("Vuoi tornare al menù?"), vbYesNoQuestion, kTitolo) == vbYes) {
+        Show(QStringLiteral("FormMenu"));
+        UnloadMe();
+    }
 }
 
 void ExerciseForm::mnuStampa_Click() {

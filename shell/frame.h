@@ -30,6 +30,9 @@ public:
     ExerciseForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda,
                  int widthTwips = 9495, int heightTwips = 6510, FrameOptions options = {});
 
+    // Closing the window from outside is the same as "Esci": it asks first.
+    void CloseBox() override { mnuEsci_Click(); }
+
     Variante variante() const { return variante_; }
     int16_t numeroScheda() const { return numeroScheda_; }
 
@@ -39,6 +42,8 @@ protected:
     virtual void BottoneAvanti_Click() {}
     // Sets this screen's worksheet and shows the worksheet screen over it.
     virtual void mnuStampa_Click();
+    // Asks whether to go back to the main menu, and goes on Yes.
+    void mnuEsci_Click();
 
     void CaricaColori() { contarello::CaricaColori(*this, variante_); }
     // Both counters to 0, as the screen opens and as "Azzera conteggio" does.

@@ -215,6 +215,17 @@ private slots:
         QVERIFY(!h.visible("ComandoIconaSi"));
     }
 
+    void closingTheWindowFromOutsideAsksLikeEsci() {
+        Harness h;
+        openForm1(h);
+        h.engine.program().nav.active()->close(); // a key or a close box of the window system
+        QCOMPARE(h.form(), QStringLiteral("Form1"));
+        QCOMPARE(h.events("msgbox").at(0).toObject().value("text").toString(), QStringLiteral("Vuoi tornare al menù?"));
+        h.run(R"J({"msgbox": [6]})J");
+        h.engine.program().nav.active()->close();
+        QCOMPARE(h.form(), QStringLiteral("FormMenu"));
+    }
+
     void informazioni() {
         Harness h;
         openForm1(h);
