@@ -1,5 +1,7 @@
 #include "shell/registry.h"
 #include "numbers/stepping.h"
+#include "numbers/words.h"
+#include "worksheets/stampa.h"
 #include "shell/menus.h"
 
 namespace contarello {
@@ -25,8 +27,11 @@ std::vector<FormEntry> FormTable() {
         {"Form100ma", MakeStepForm<11>},
         // neighbours, comparison, tens and units, expressions
         // words and digits
+        {"FormScri", MakeFormScri},
+        {"FormScri2", MakeFormScri2},
         // ordering, column sums
         // worksheets
+        {"formStampa", MakeFormStampa},
     };
 }
 

@@ -1,0 +1,105 @@
+#include "numbers/words.h"
+#include "shell/lang.h"
+#include "shell/numberwords.h"
+#include "shell/program.h"
+
+#include <array>
+
+namespace contarello {
+
+namespace {
+
+QString Parola(int numero, Modulo1& g) {
+    long long n = numero; // the routine uses its number up
+    return NumeroInParole(n, g);
+}
+
+QString Cifre(int numero, Modulo1&) {
+    return Str(numero);
+}
+
+// Blanks, signs and letters anywhere in the text don't count: only its digits do.
+bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
+    return Val(FiltroCifre(testo)) == numero;
+}
+
+// One spelling per number, in capitals, with no accent and no blank inside; blanks around the word
+// are forgiven. Capitals come from the key filter only, so a word pasted in small letters is wrong.
+bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
+    return Trim(testo) == Parola(numero, g);
+}
+
+constexpr std::array<WordsMember, 2> kMembers = {{
+    {"FormScri", "Scrivi il numero in cifre", 36, 4335, true, Parola, CifreGiuste, nullptr},
+    {"FormScri2", "Scrivi il numero in lettere", 18, 8670, false, Cifre, ParolaGiusta, FiltroMaiuscole},
+}};
+
+QuestionLook Aspetto(const WordsMember& m) {
+    return {Arial(26.25), Arial(m.fontTesto)};
+}
+
+} // namespace
+
+const WordsMember* FindWordsMember(const QString& form) {
+    for (const WordsMember& m : kMembers)
+        if (form == QLatin1String(m.form)) return &m;
+    return nullptr;
+}
+
+WordsForm::WordsForm(Program& program, const WordsMember& member)
+    : QuestionForm(program, QLatin1String(member.form), Variante::D, 1, Aspetto(member)), member_(member) {
+    MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
+    mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
+    MenuInformazioni->setCaption(QStringLiteral("Informazioni         "));
+    AggiungiCorniceNumeroMassimo(QStringLiteral("mnuNumeroMassimo"),
+                                 QStringLiteral("Numero Massimo          "), mnuStampa);
+
+    // The word, what to do, then the box in the middle of the screen, clear of the "avanti" arrow.
+    EtichettaNumero->setGeometry(tw(240), tw(1260), tw(8895), tw(855));
+    Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 240, 2220, 8895, 375,
+                   Arial(12));
+    Label3->setAlignment(Qt::AlignCenter);
+    const int alto = member.fontTesto > 24 ? 1095 : 615;
+    Text1->setGeometry(tw((9495 - member.larghezzaTesto) / 2), tw(2760), tw(member.larghezzaTesto), tw(alto));
+    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
+    // The limit panel lies over all the rest.
+    CorniceNumeroMassimo->raise();
+}
+
+void WordsForm::Load() {
+    if (member_.randomize) app.rnd.Randomize();
+    QuestionForm::Load();
+}
+
+void WordsForm::NuovaDomanda() {
+    CaricaColori();
+    g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
+    ScriviDomanda(member_.domanda(g.NumeroEsatto, g));
+}
+
+void WordsForm::Text1_KeyUp(int keyCode, int) {
+    if (keyCode != 13 || Text1->Text().isEmpty()) return;
+    if (member_.giusta(Text1->Text(), g.NumeroEsatto, g)) {
+        RispostaEsatta();
+        // The question stays as it is while the screen waits: a word and its digits side by side
+        // would not read as one line.
+        if (BottoneAvanti->Visible()) {
+            BottoneAvanti->setEnabled(true);
+            Text1->setEnabled(false);
+        } else {
+            NuovaDomanda();
+        }
+    } else {
+        RispostaErrata();
+        if (Text1->isEnabled()) Text1->SetFocus();
+    }
+}
+
+std::unique_ptr<Form> MakeFormScri(Program& app) {
+    return std::make_unique<WordsForm>(app, kMembers[0]);
+}
+std::unique_ptr<Form> MakeFormScri2(Program& app) {
+    return std::make_unique<WordsForm>(app, kMembers[1]);
+}
+
+} // namespace contarello
