@@ -105,6 +105,7 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
         const int col = i / 3, row = i % 3;
         auto* o = option(indexed(QStringLiteral("OpzioneNumeroMassimo"), i), QString::number(19 + 10 * i),
                          840 + col * 2880, 1080 + row * 1320, 1575, 855, Arial(20.25), CorniceNumeroMassimo);
+        o->setAutoFillBackground(false); // the options stand on the panel, not on grey patches
         o->Click = [this, i] {
             g.NumeroMassimo = int16_t(19 + 10 * i);
             NuovaDomanda();
