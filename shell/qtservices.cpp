@@ -119,7 +119,7 @@ void QtPrinter::endDoc() {
     QStringList lines = text.split(QStringLiteral("\r\n"));
     if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     for (const QString& line : lines) {
-        if (y > pageHeight) {
+        if (y + p.fontMetrics().descent() > pageHeight) {
             if (!printer.newPage()) break;
             y = p.fontMetrics().ascent();
         }
