@@ -16,9 +16,11 @@ Domanda meno(int esatto, int passo) {
     return {esatto, Str(esatto + passo) + QStringLiteral(" - ") + Str(passo) + QStringLiteral(" = ")};
 }
 
-// Tens from 10 to 90. Under a limit below 90 the tens must stay where the question still has a
-// result from 0 up, and no more than the limit: so only the tens that fit are drawn, still with one
-// draw. "fino" is the highest step that fits; with the limit at 90 or more all nine tens come.
+// Tens from 10 to 90. Under a low limit the tens must stay where the question still has a result
+// from 0 up, and no more than the limit: so only the tens that fit are drawn, still with one draw.
+// "fino" is the highest step that fits; from 90 up all nine tens come. Form10ma draws its result
+// below N - 1 - x, so there a ten fits only up to N - 1: at the limit 90 the ten 90 would leave a
+// question with no answer.
 int Decine(Random& rnd, int fino) {
     return (Draw(rnd, std::clamp(fino / 10, 1, 9)) + 1) * 10;
 }

@@ -1,4 +1,7 @@
 #include "shell/registry.h"
+#include "numbers/comparison.h"
+#include "numbers/expressions.h"
+#include "numbers/neighbours.h"
 #include "numbers/stepping.h"
 #include "numbers/words.h"
 #include "worksheets/stampa.h"
@@ -26,6 +29,12 @@ std::vector<FormEntry> FormTable() {
         {"Form10ma", MakeStepForm<10>},
         {"Form100ma", MakeStepForm<11>},
         // neighbours, comparison, tens and units, expressions
+        {"Formpri", MakeFormpri},
+        {"Formdopo", MakeFormdopo},
+        {"Formmez", MakeFormmez},
+        {"FormMM", MakeFormMM},
+        {"FormSimb", MakeFormSimb},
+        {"Formesp", MakeFormesp},
         // words and digits
         {"FormScri", MakeFormScri},
         {"FormScri2", MakeFormScri2},

@@ -1,0 +1,58 @@
+#pragma once
+// Two screens on reading a number: FormMM asks which of ">", "<", "=" stands between two numbers,
+// FormSimb shows a number as tens and units ("4 da 7 u") and asks for it in digits.
+
+#include "shell/frame.h"
+
+#include <memory>
+
+namespace contarello {
+
+// The child answers with one of three buttons instead of typing. Everything is set up in Load, so a
+// question left open while a worksheet is printed is still there when the child comes back.
+class FormMM : public ExerciseForm {
+    Q_OBJECT
+public:
+    explicit FormMM(Program& app);
+
+    void Load() override;
+    QJsonObject fields() const override;
+
+protected:
+    void NuovaDomanda() override;
+    void BottoneAvanti_Click() override;
+
+private:
+    void Comando_Click(int index);
+    void AbilitaSimboli(bool on);
+
+    ControlArray<Label> EtNumero;
+    Label* Label3;
+    ControlArray<CommandButton> Comando;
+
+    int16_t PrimoNumero = 0;
+    int16_t SecondoNumero = 0;
+    int16_t SimboloEsatto = 0; // the index of the right button: 0 ">", 1 "<", 2 "="
+};
+
+class FormSimb : public QuestionForm {
+    Q_OBJECT
+public:
+    explicit FormSimb(Program& app);
+
+    QJsonObject fields() const override;
+
+protected:
+    void NuovaDomanda() override;
+    void MostraRispostaEsatta() override;
+
+private:
+    Label* Label3;
+    int16_t QuanteDecine = 0;
+    int16_t QuanteUnita = 0;
+};
+
+std::unique_ptr<Form> MakeFormMM(Program& app);
+std::unique_ptr<Form> MakeFormSimb(Program& app);
+
+} // namespace contarello
