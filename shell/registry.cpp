@@ -1,7 +1,9 @@
 #include "shell/registry.h"
+#include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
 #include "numbers/neighbours.h"
+#include "numbers/ordering.h"
 #include "numbers/stepping.h"
 #include "numbers/words.h"
 #include "worksheets/stampa.h"
@@ -39,6 +41,11 @@ std::vector<FormEntry> FormTable() {
         {"FormScri", MakeFormScri},
         {"FormScri2", MakeFormScri2},
         // ordering, column sums
+        {"FormOrd", MakeFormOrd},
+        {"FormCol1", MakeFormCol1},
+        {"FormCol2", MakeFormCol2},
+        {"FormCol3", MakeFormCol3},
+        {"FormCol4", MakeFormCol4},
         // worksheets
         {"formStampa", MakeFormStampa},
     };

@@ -1,0 +1,243 @@
+#include "numbers/columns.h"
+#include "shell/lang.h"
+#include "shell/program.h"
+
+namespace contarello {
+
+namespace {
+
+const QColor kRosso(0xff, 0x00, 0x00);
+const QColor kBlu(0x00, 0x00, 0xff);
+const QColor kMagenta(0xff, 0x00, 0xff);
+const QColor kCiano(0x00, 0xff, 0xff);
+
+// The same colour in every state, so that a disabled box still shows its digits clearly.
+void Colora(QWidget* w, QPalette::ColorRole role, QColor c) {
+    QPalette p = w->palette();
+    for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        p.setColor(group, role, c);
+    w->setPalette(p);
+}
+
+} // namespace
+
+ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante variante)
+    : ExerciseForm(program, QString::fromUtf8(member.form), variante, member.numeroScheda, 10080, 5400,
+                   FrameOptions{.bottoneAvanti = false}),
+      member_(member) {
+    MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
+    mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
+    MenuInformazioni->setCaption(QString::fromUtf8(member.informazioni));
+
+    // The instruction runs across the top; the counters and the faces stand right of the column.
+    Label3 = label(QStringLiteral("Label3"), QString(), 120, 90, 9840, 660, Arial(14.25));
+    Label3->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    Label3->setBackColor(kCiano);
+    Label1->setGeometry(tw(7560), tw(1860), tw(1095), tw(375));
+    EtichettaEsatti->setGeometry(tw(8760), tw(1800), tw(1095), tw(495));
+    Label2->setGeometry(tw(7560), tw(2700), tw(1095), tw(375));
+    EtichettaErrati->setGeometry(tw(8760), tw(2640), tw(1095), tw(495));
+    ComandoIconaSi->setGeometry(tw(8160), tw(3600), tw(855), tw(750));
+    ComandoIconaNo->setGeometry(tw(8160), tw(3600), tw(855), tw(750));
+
+    // The operation in a row.
+    auto riga = [this](const char* name, int left, int width = 495) {
+        Label* l = label(QString::fromUtf8(name), QString(), left, 1200, width, 495, Arial(18));
+        l->setAlignment(Qt::AlignCenter);
+        QPalette p = l->palette();
+        p.setColor(QPalette::Window, Qt::white);
+        l->setPalette(p);
+        return l;
+    };
+    Lda1 = riga("Lda1", 120);
+    Lu1 = riga("Lu1", 600);
+    Label6 = riga("Label6", 1080);
+    Lda2 = riga("Lda2", 1560);
+    Lu2 = riga("Lu2", 2040);
+    Label7 = riga("Label7", 2520);
+    Label7->setCaption(QStringLiteral("="));
+    Lris = riga("Lris", 3000, 1095);
+    Lris->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+
+    // The column: its heads, its four cells, the rule and the two boxes of the result.
+    Label4 = label(QStringLiteral("Label4"), QStringLiteral("da"), 4320, 1440, 495, 345, Arial(12));
+    Label5 = label(QStringLiteral("Label5"), QStringLiteral("u"), 5640, 1440, 495, 345, Arial(12));
+    for (auto [head, colour] : {std::pair{Label4, kRosso}, std::pair{Label5, kBlu}}) {
+        head->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+        Colora(head, QPalette::WindowText, colour);
+    }
+    auto casella = [this](const char* name, int left, int top, QColor colour) {
+        Label* l = label(QString::fromUtf8(name), QString(), left, top, 735, 615, Arial(24));
+        l->setAlignment(Qt::AlignCenter);
+        l->setFrameShape(QFrame::Box);
+        Colora(l, QPalette::WindowText, colour);
+        Colora(l, QPalette::Window, Qt::white);
+        l->setAutoFillBackground(true);
+        l->Control::acceptDrops();
+        return l;
+    };
+    Eda1 = casella("Eda1", 4200, 1800, kRosso);
+    Eu1 = casella("Eu1", 5520, 1800, kBlu);
+    Eda2 = casella("Eda2", 4200, 2640, kRosso);
+    Eu2 = casella("Eu2", 5520, 2640, kBlu);
+    Eda1->DragDrop = [this](Control* s) { Casella_DragDrop(Eda1, Lda1, s, true); };
+    Eu1->DragDrop = [this](Control* s) { Casella_DragDrop(Eu1, Lu1, s, true); };
+    Eda2->DragDrop = [this](Control* s) { Casella_DragDrop(Eda2, Lda2, s, false); };
+    Eu2->DragDrop = [this](Control* s) { Casella_DragDrop(Eu2, Lu2, s, false); };
+
+    registerControl(new Line(client(), member.line1Left, 3600, 6840, 3600, Qt::black, 3),
+                    QStringLiteral("Line1"));
+
+    auto risultato = [this](const char* name, int left, QColor colour) {
+        TextBox* t = textBox(QString::fromUtf8(name), left, 3840, 735, 615, Arial(24));
+        t->setAlignment(Qt::AlignCenter);
+        t->setTextMargins(0, 0, 0, 0);
+        Colora(t, QPalette::Text, colour);
+        t->setEnabled(false);
+        return t;
+    };
+    Edar = risultato("Edar", 4200, kRosso);
+    Eur = risultato("Eur", 5520, kBlu);
+    Eur->KeyUp = [this](int keyCode, int) { Eur_KeyUp(keyCode); };
+    Edar->KeyUp = [this](int keyCode, int) { Edar_KeyUp(keyCode); };
+}
+
+void ColumnForm::CreaCambio(int upLeft, int upTop, int uaLeft, int uaTop) {
+    auto magenta = [this](const char* name, int left, int top) {
+        Label* l = label(QString::fromUtf8(name), QString(), left, top, 360, 615, Arial(14.25));
+        l->setAlignment(Qt::AlignCenter);
+        // Edged, so that it shows also on a magenta background.
+        l->setFrameShape(QFrame::Box);
+        l->setBackColor(kMagenta);
+        l->setVisible(false);
+        return l;
+    };
+    CambioUp = magenta("CambioUp", upLeft, upTop);
+    CambioUa = magenta("CambioUa", uaLeft, uaTop);
+    Trascinabile(CambioUp, 1);
+    CambioUa->Control::acceptDrops();
+    CambioUa->DragDrop = [this](Control* s) { CambioUa_DragDrop(s); };
+}
+
+// A label that can be dragged shows a hand under the pointer; a digit of the row also stands on a
+// white tile while it waits to be taken, so the child sees which digits move now.
+void ColumnForm::Trascinabile(Label* l, int dragMode) {
+    l->setDragMode(dragMode);
+    l->setCursor(dragMode == 1 ? Qt::OpenHandCursor : Qt::ArrowCursor);
+    if (!l->hasBackColor()) {
+        l->setAutoFillBackground(dragMode == 1);
+        l->setFrameShape(dragMode == 1 ? QFrame::Box : QFrame::NoFrame);
+    }
+}
+
+void ColumnForm::Cifra(Label* l, int16_t cifra, bool anchePerZero) {
+    l->setCaption(cifra >= 1 || anchePerZero ? Str(cifra) : QString());
+}
+
+void ColumnForm::Load() {
+    AzzeraConteggio();
+}
+
+void ColumnForm::NuovaDomanda() {
+    std::optional<Colonna> c;
+    do {
+        if (NuoviColori()) CaricaColori();
+        Eur->setEnabled(false);
+        Edar->setEnabled(false);
+        if (CambioUp) {
+            CambioUp->setVisible(false);
+            CambioUa->setVisible(false);
+        }
+        for (Label* l : {Lris, Eu1, Eu2, Eda1, Eda2})
+            l->setCaption(QString());
+        Eur->setText(QString());
+        Edar->setText(QString());
+        c = member_.tenta(app.rnd, g.NumeroMassimo);
+    } while (!c);
+    Da1 = c->Da1;
+    U1 = c->U1;
+    Da2 = c->Da2;
+    U2 = c->U2;
+    DaR = c->DaR;
+    UR = c->UR;
+    Cifre1 = Da1 != 0 ? 2 : 1;
+    Cifre2 = Da2 != 0 ? 2 : 1;
+    Cifra(Lu1, U1, true);
+    Cifra(Lu2, U2, true);
+    Cifra(Lda1, Da1, false);
+    Cifra(Lda2, Da2, false);
+    Trascinabile(Lda1, Lda1->Caption().isEmpty() ? 0 : 1);
+    Trascinabile(Lu1, 1);
+    Trascinabile(Lda2, 0);
+    Trascinabile(Lu2, 0);
+    Label3->setCaption(QString::fromUtf8(member_.primo));
+}
+
+// The texts are compared, not the controls: a digit equal to the cell's own is just as good.
+void ColumnForm::Casella_DragDrop(Label* casella, Label* propria, Control* source, bool primo) {
+    auto* dragged = dynamic_cast<Label*>(source);
+    if (!dragged || dragged->Caption() != propria->Caption()) return;
+    casella->setCaption(propria->Caption());
+    Trascinabile(propria, 0);
+    if (primo) {
+        --Cifre1;
+        Controlla1();
+    } else {
+        --Cifre2;
+        Controlla2();
+    }
+}
+
+void ColumnForm::Controlla1() {
+    if (Cifre1 >= 1) return;
+    if (Da2 > 0) Trascinabile(Lda2, 1);
+    Trascinabile(Lu2, 1);
+    Label3->setCaption(QString::fromUtf8(member_.secondo));
+}
+
+void ColumnForm::Controlla2() {
+    if (Cifre2 < 1) SecondoCompleto();
+}
+
+void ColumnForm::ApriUnita() {
+    Label3->setCaption(TestoUnita());
+    Eur->setEnabled(true);
+    Eur->SetFocus();
+}
+
+void ColumnForm::ApriDecine() {
+    Edar->setEnabled(true);
+    Edar->SetFocus();
+    Label3->setCaption(TestoDecine());
+}
+
+void ColumnForm::Eur_KeyUp(int keyCode) {
+    if (keyCode != 13) return;
+    if (Val(Eur->Text()) != UR) {
+        RispostaErrata();
+        Eur->SetFocus();
+        return;
+    }
+    UnitaEsatte();
+}
+
+void ColumnForm::Edar_KeyUp(int keyCode) {
+    if (keyCode != 13) return;
+    if (Val(Edar->Text()) != DaR) {
+        RispostaErrata();
+        Edar->SetFocus();
+        return;
+    }
+    Edar->setEnabled(false);
+    Lris->setCaption(Str(10 * DaR + UR));
+    RispostaEsatta();
+    app.dialogs.MsgBox(QStringLiteral("Bravo"), vbOKOnly, kTitolo);
+    NuovaDomanda();
+}
+
+QJsonObject ColumnForm::fields() const {
+    return {{"Da1", Da1}, {"U1", U1}, {"Da2", Da2},       {"U2", U2},
+            {"DaR", DaR}, {"UR", UR}, {"Cifre1", Cifre1}, {"Cifre2", Cifre2}};
+}
+
+} // namespace contarello

@@ -1,0 +1,220 @@
+#include "numbers/ordering.h"
+#include "shell/lang.h"
+#include "shell/program.h"
+
+#include <QJsonArray>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace contarello {
+
+namespace {
+
+const QString kDalMinore = QStringLiteral("Ordina i numeri dal minore al maggiore ");
+const QString kDalMaggiore = QStringLiteral("Ordina i numeri dal maggiore al minore");
+const QString kFormato = QStringLiteral("###,###,##0");
+constexpr int kPosti = 8; // buttons and labels of the two columns
+// Wide enough for the six items of the menu bar to show in full.
+constexpr int kLarghezza = 12600;
+
+// A green arrow turning back on itself: "start again".
+QPixmap FrecciaCircolare() {
+    QPixmap pm(32, 32);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QColor verde(0x00, 0x80, 0x00);
+    p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::FlatCap));
+    p.drawArc(QRectF(5, 5, 22, 22), 100 * 16, 290 * 16);
+    QPainterPath punta;
+    punta.moveTo(11, 1);
+    punta.lineTo(21, 6);
+    punta.lineTo(12, 12);
+    punta.closeSubpath();
+    p.setPen(Qt::NoPen);
+    p.setBrush(verde);
+    p.drawPath(punta);
+    return pm;
+}
+
+} // namespace
+
+FormOrd::FormOrd(Program& program)
+    : ExerciseForm(program, QStringLiteral("FormOrd"), Variante::A, 4, kLarghezza, 6660) {
+    setTitleBar(true);
+
+    MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
+    mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
+    MenuInformazioni->setCaption(QStringLiteral("Informazioni         "));
+    MenuQuantiNumeri = menu(QStringLiteral("MenuQuantiNumeri"),
+                            QStringLiteral("Scegli quanti numeri da ordinare        "), nullptr, mnuStampa);
+    MenuOrdinamento = menu(QStringLiteral("MenuOrdinamento"), QStringLiteral("Tipo di ordinamento        "),
+                           nullptr, mnuStampa);
+    MenuSu = menu(QStringLiteral("MenuSu"), QStringLiteral("Dal minore al maggiore"), MenuOrdinamento);
+    MenuGiu = menu(QStringLiteral("MenuGiu"), QStringLiteral("Dal maggiore al minore"), MenuOrdinamento);
+    MenuQuantiNumeri->Click = [this] {
+        EtNumeri->setLeft(0);
+        EtNumeri->setTop(0);
+        EtNumeri->raise();
+        EtNumeri->setVisible(true);
+    };
+    MenuSu->Click = [this] { ScegliOrdinamento(true); };
+    MenuGiu->Click = [this] { ScegliOrdinamento(false); };
+
+    // The two columns fill the left of the screen; counters, faces and buttons stand at the right.
+    for (int i = 0; i < kPosti; ++i) {
+        auto* b = button(indexed(QStringLiteral("ComandoNumero"), i), QString(), 120, 120 + 720 * i, 2775,
+                         615, Arial(18));
+        b->Click = [this, i] { ComandoNumero_Click(i); };
+        ComandoNumero.set(i, b);
+        auto* l = label(indexed(QStringLiteral("EtNumero"), i), QString(), 4440, 120 + 720 * i, 1935, 615,
+                        Arial(18));
+        // A placed number sits on white, readable on every background the screen can draw.
+        l->setAlignment(Qt::AlignCenter);
+        l->setFrameShape(QFrame::Box);
+        QPalette p = l->palette();
+        p.setColor(QPalette::Window, Qt::white);
+        l->setPalette(p);
+        l->setAutoFillBackground(true);
+        l->setVisible(false);
+        EtNumero.set(i, l);
+    }
+
+    Label1->setGeometry(tw(7200), tw(300), tw(960), tw(375));
+    EtichettaEsatti->setGeometry(tw(8160), tw(240), tw(960), tw(495));
+    Label2->setGeometry(tw(9240), tw(300), tw(960), tw(375));
+    EtichettaErrati->setGeometry(tw(10200), tw(240), tw(960), tw(495));
+    ComandoIconaSi->setGeometry(tw(11280), tw(120), tw(855), tw(750));
+    ComandoIconaNo->setGeometry(tw(11280), tw(120), tw(855), tw(750));
+
+    BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), 8460, 1680,
+                               2415, 1215, Arial(14.25));
+    BottoneRicomincia->setPicture(FrecciaCircolare());
+    BottoneRicomincia->Click = [this] { RimettiNumeri(); };
+    BottoneAvanti->setGeometry(tw(8460), tw(3240), tw(2415), tw(1215));
+
+    // Read by the worksheet of this exercise as the length of its rows; never shown.
+    Label3 = label(QStringLiteral("Label3"), QString(), 6720, 5040, 495, 375, Arial(8, false));
+    Label3->setVisible(false);
+
+    EtNumeri = frame(QStringLiteral("EtNumeri"), QStringLiteral("Scegli quanti numeri vuoi ordinare"), 0, 0,
+                     kLarghezza, 9360, Arial(14.25));
+    QPalette p = EtNumeri->palette();
+    p.setColor(QPalette::Window, QColor(0xc0, 0xff, 0xff));
+    EtNumeri->setPalette(p);
+    EtNumeri->setAutoFillBackground(true);
+    for (int i = 0; i < 6; ++i) {
+        auto* o = option(indexed(QStringLiteral("Option3D1"), i), QString::number(i + 3), 960, 840 + 840 * i,
+                         1575, 735, Arial(20.25), EtNumeri);
+        o->Click = [this, i] { Option3D1_Click(i); };
+        Option3D1.set(i, o);
+    }
+    EtNumeri->raise();
+}
+
+void FormOrd::Load() {
+    BottoneAvanti->setVisible(g.AttendiBottone != False);
+    Option3D1(4)->setValue(true);
+    ScegliOrdinamento(true);
+    AzzeraConteggio();
+    for (int i = 0; i < kPosti; ++i)
+        ComandoNumero(i)->setVisible(false);
+    Label3->setCaption(QStringLiteral("8"));
+    NuovaDomanda();
+}
+
+void FormOrd::NuovaDomanda() {
+    Scelti = 0;
+    CaricaColori();
+    Ordinati.fill(0);
+    for (int i = 0; i < kPosti; ++i) {
+        EtNumero(i)->setVisible(false);
+        ComandoNumero(i)->setVisible(false);
+    }
+    for (int i = 0; i < QuantiNumeri; ++i) {
+        ComandoNumero(i)->setVisible(true);
+        ComandoNumero(i)->setEnabled(true);
+        Numeri[i] = int16_t(Draw(app.rnd, g.NumeroMassimo + 1));
+        ComandoNumero(i)->setCaption(Format(Numeri[i], kFormato));
+    }
+}
+
+void FormOrd::ComandoNumero_Click(int k) {
+    if (Scelti >= QuantiNumeri) return; // every number is placed already
+    Ordinati[Scelti] = Numeri[k];
+    ComandoNumero(k)->setEnabled(false);
+    EtNumero(Scelti)->setVisible(true);
+    EtNumero(Scelti)->setCaption(ComandoNumero(k)->Caption());
+    ComandoNumero(k)->setCaption(QString());
+    ++Scelti;
+    if (Scelti == QuantiNumeri) ControllaOrdine();
+}
+
+void FormOrd::ControllaOrdine() {
+    // Only a pair strictly out of order is wrong: equal numbers may stand either way round.
+    for (int i = 1; i < Scelti; ++i) {
+        const bool fuori = DalMinore != False ? Ordinati[i] < Ordinati[i - 1] : Ordinati[i - 1] < Ordinati[i];
+        if (fuori) {
+            OrdineSbagliato();
+            return;
+        }
+    }
+    RispostaEsatta();
+    if (BottoneAvanti->Visible())
+        BottoneAvanti->setEnabled(true);
+    else
+        NuovaDomanda();
+}
+
+void FormOrd::RimettiNumeri() {
+    Scelti = 0;
+    for (int i = 0; i < kPosti; ++i)
+        EtNumero(i)->setVisible(false);
+    for (int i = 0; i < QuantiNumeri; ++i) {
+        ComandoNumero(i)->setVisible(true);
+        ComandoNumero(i)->setEnabled(true);
+        ComandoNumero(i)->setCaption(Format(Numeri[i], kFormato));
+    }
+}
+
+void FormOrd::OrdineSbagliato() {
+    RimettiNumeri();
+    RispostaErrata();
+}
+
+void FormOrd::BottoneAvanti_Click() {
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+void FormOrd::Option3D1_Click(int i) {
+    QuantiNumeri = int16_t(Val(Option3D1(i)->Caption()));
+    Label3->setCaption(Str(QuantiNumeri));
+    EtNumeri->setVisible(false);
+    NuovaDomanda();
+}
+
+// The title bar tells the child the order asked; the numbers already placed stay.
+void FormOrd::ScegliOrdinamento(bool dalMinore) {
+    setCaption(dalMinore ? kDalMinore : kDalMaggiore);
+    DalMinore = dalMinore ? True : False;
+}
+
+QJsonObject FormOrd::fields() const {
+    QJsonArray numeri, ordinati;
+    for (int i = 0; i < 11; ++i) {
+        numeri.append(Numeri[i]);
+        ordinati.append(Ordinati[i]);
+    }
+    return {{"Numeri", numeri},
+            {"Ordinati", ordinati},
+            {"QuantiNumeri", QuantiNumeri},
+            {"Scelti", Scelti},
+            {"DalMinore", DalMinore}};
+}
+
+std::unique_ptr<Form> MakeFormOrd(Program& app) {
+    return std::make_unique<FormOrd>(app);
+}
+
+} // namespace contarello

@@ -1,0 +1,57 @@
+#pragma once
+// "Ordina i numeri": a column of numbers on buttons, clicked one after the other into a second
+// column, the order judged as a whole once the last one is placed. The task stands in the title
+// bar, the one screen of the program that has one.
+
+#include "shell/frame.h"
+#include "shell/globals.h"
+
+#include <array>
+#include <memory>
+
+namespace contarello {
+
+class FormOrd : public ExerciseForm {
+    Q_OBJECT
+public:
+    explicit FormOrd(Program& app);
+
+    // Everything is set up here and nothing in Activate: coming back from the worksheet keeps the
+    // question the child was ordering.
+    void Load() override;
+    QJsonObject fields() const override;
+
+protected:
+    void NuovaDomanda() override;
+    void BottoneAvanti_Click() override;
+
+private:
+    void ComandoNumero_Click(int k);
+    void ControllaOrdine();
+    void OrdineSbagliato();
+    // The same numbers back on their buttons and the second column emptied.
+    void RimettiNumeri();
+    void Option3D1_Click(int i);
+    void ScegliOrdinamento(bool dalMinore);
+
+    ControlArray<CommandButton> ComandoNumero;
+    ControlArray<Label> EtNumero;
+    CommandButton* BottoneRicomincia;
+    Frame* EtNumeri;
+    ControlArray<OptionButton> Option3D1;
+    Label* Label3;
+    MenuItem* MenuQuantiNumeri;
+    MenuItem* MenuOrdinamento;
+    MenuItem* MenuSu;
+    MenuItem* MenuGiu;
+
+    std::array<int16_t, 11> Numeri{};
+    std::array<int16_t, 11> Ordinati{};
+    int16_t QuantiNumeri = 7;
+    int16_t Scelti = 0;
+    int16_t DalMinore = True;
+};
+
+std::unique_ptr<Form> MakeFormOrd(Program& app);
+
+} // namespace contarello
