@@ -646,6 +646,10 @@ void Form::setBackColor(QColor c) {
     backColor_ = c;
     QPalette p = palette();
     p.setColor(QPalette::Window, c);
+    // Captions stand on the background itself: on the dark colours of the table they turn white,
+    // so that a child can still read the counters and the question.
+    const double luminance = 0.2126 * c.redF() + 0.7152 * c.greenF() + 0.0722 * c.blueF();
+    p.setColor(QPalette::WindowText, luminance < 0.4 ? Qt::white : Qt::black);
     setPalette(p);
     update();
 }
