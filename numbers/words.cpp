@@ -77,22 +77,8 @@ void WordsForm::NuovaDomanda() {
     ScriviDomanda(member_.domanda(g.NumeroEsatto, g));
 }
 
-void WordsForm::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13 || Text1->Text().isEmpty()) return;
-    if (member_.giusta(Text1->Text(), g.NumeroEsatto, g)) {
-        RispostaEsatta();
-        // The question stays as it is while the screen waits: a word and its digits side by side
-        // would not read as one line.
-        if (BottoneAvanti->Visible()) {
-            BottoneAvanti->setEnabled(true);
-            Text1->setEnabled(false);
-        } else {
-            NuovaDomanda();
-        }
-    } else {
-        RispostaErrata();
-        if (Text1->isEnabled()) Text1->SetFocus();
-    }
+bool WordsForm::RispostaGiusta() {
+    return member_.giusta(Text1->Text(), g.NumeroEsatto, g);
 }
 
 std::unique_ptr<Form> MakeFormScri(Program& app) {

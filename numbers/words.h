@@ -33,7 +33,10 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void Text1_KeyUp(int keyCode, int shift) override;
+    bool RispostaGiusta() override;
+    // The question stays as it is while the screen waits: a word and its digits side by side would
+    // not read as one line.
+    void MostraRispostaEsatta() override {}
 
 private:
     const WordsMember& member_;

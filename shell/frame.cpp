@@ -159,10 +159,13 @@ void QuestionForm::MostraRispostaEsatta() {
     EtichettaNumero->setCaption(EtichettaNumero->Caption() + Text1->Text());
 }
 
+bool QuestionForm::RispostaGiusta() {
+    return Val(FiltroCifre(Text1->Text())) == g.NumeroEsatto;
+}
+
 void QuestionForm::Text1_KeyUp(int keyCode, int) {
     if (keyCode != 13 || Text1->Text().isEmpty()) return;
-    const double risposta = Val(FiltroCifre(Text1->Text()));
-    if (risposta == g.NumeroEsatto) {
+    if (RispostaGiusta()) {
         RispostaEsatta();
         if (BottoneAvanti->Visible()) {
             BottoneAvanti->setEnabled(true);

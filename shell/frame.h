@@ -91,8 +91,10 @@ public:
 
 protected:
     void BottoneAvanti_Click() override;
-    // Enter released on a text that isn't empty: the digits of the text against NumeroEsatto.
-    virtual void Text1_KeyUp(int keyCode, int shift);
+    // Enter released on a text that isn't empty: the answer judged, then counted.
+    void Text1_KeyUp(int keyCode, int shift);
+    // Whether the text in the box answers the question: by default its digits against NumeroEsatto.
+    virtual bool RispostaGiusta();
     // What a right answer shows while the screen waits for "avanti": the answer after the question.
     virtual void MostraRispostaEsatta();
     // Empties the box, writes the question and gives the box the focus when it can take it.
