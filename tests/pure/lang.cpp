@@ -85,7 +85,8 @@ private slots:
 
     void drawIsIntOfRndTimesNPlusM() {
         ScriptedRandom r;
-        for (double v : {0.0, 0.999999, 0.5, 0.3}) r.queue(v);
+        for (double v : {0.0, 0.999999, 0.5, 0.3})
+            r.queue(v);
         QCOMPARE(Draw(r, 18, 1), 1);
         QCOMPARE(Draw(r, 18, 1), 18);
         QCOMPARE(Draw(r, 99, 1), 50);

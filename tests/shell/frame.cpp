@@ -12,7 +12,9 @@ using namespace contarello::test;
 namespace {
 
 // The draw that makes Form1 ask for e (e = Int(Rnd * 99) + 1).
-double drawFor(int e) { return (e - 1 + 0.5) / 99.0; }
+double drawFor(int e) {
+    return (e - 1 + 0.5) / 99.0;
+}
 
 // Opens "più 1" from the menus with the question " 11 + 1 = " and the first colour slot.
 void openForm1(Harness& h, int e = 12) {
@@ -23,29 +25,15 @@ void openForm1(Harness& h, int e = 12) {
     h.events();
 }
 
-void enter(Harness& h) { h.run(R"J({"key": "Text1", "code": 13})J"); }
+void enter(Harness& h) {
+    h.run(R"J({"key": "Text1", "code": 13})J");
+}
 
 } // namespace
 
 class FrameTest : public QObject {
     Q_OBJECT
 private slots:
-    void firstQuestion() {
-        Harness h;
-        openForm1(h, 12);
-        const QJsonObject d = h.dump();
-        QCOMPARE(d.value("form").toString(), QStringLiteral("Form1"));
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 11 + 1 = "));
-        QCOMPARE(h.global("NumeroEsatto"), 12);
-        QCOMPARE(d.value("backcolor").toString(), QStringLiteral("#ffc0c0"));
-        QCOMPARE(d.value("focus").toString(), QStringLiteral("Text1"));
-        QCOMPARE(h.caption("EtichettaEsatti"), QStringLiteral("0"));
-        QVERIFY(h.visible("ComandoIconaNo"));
-        QVERIFY(!h.visible("ComandoIconaSi"));
-        QVERIFY(h.visible("BottoneAvanti"));
-        QVERIFY(!h.enabled("BottoneAvanti"));
-    }
-
     void answers_data() {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<bool>("right");
@@ -77,7 +65,8 @@ private slots:
         QCOMPARE(h.caption(right ? "EtichettaEsatti" : "EtichettaErrati"), QStringLiteral(" 1"));
         QCOMPARE(h.caption(right ? "EtichettaErrati" : "EtichettaEsatti"), QStringLiteral("0"));
         // A right answer shows as the child typed it and waits for "avanti"; a wrong one stays to be mended.
-        QCOMPARE(h.caption("EtichettaNumero"), right ? QStringLiteral(" 11 + 1 = ") + typed : QStringLiteral(" 11 + 1 = "));
+        QCOMPARE(h.caption("EtichettaNumero"),
+                 right ? QStringLiteral(" 11 + 1 = ") + typed : QStringLiteral(" 11 + 1 = "));
         QCOMPARE(h.text("Text1"), typed);
         QCOMPARE(h.enabled("Text1"), !right);
         QCOMPARE(h.enabled("BottoneAvanti"), right);
@@ -141,7 +130,8 @@ private slots:
         QVERIFY(h.visible("ComandoIconaSi")); // the face stays until the next answer
         QCOMPARE(h.caption("EtichettaEsatti"), QStringLiteral(" 1"));
         // while waiting, the box takes no keys
-        QCOMPARE(h.run(R"J({"click": "BottoneAvanti"})J").value("ignored").toString(), QStringLiteral("disabled"));
+        QCOMPARE(h.run(R"J({"click": "BottoneAvanti"})J").value("ignored").toString(),
+                 QStringLiteral("disabled"));
     }
 
     void withoutAvantiTheNextQuestionComesAtOnce() {
@@ -221,7 +211,8 @@ private slots:
         openForm1(h);
         h.engine.program().nav.active()->close(); // a key or a close box of the window system
         QCOMPARE(h.form(), QStringLiteral("Form1"));
-        QCOMPARE(h.events("msgbox").at(0).toObject().value("text").toString(), QStringLiteral("Vuoi tornare al menù?"));
+        QCOMPARE(h.events("msgbox").at(0).toObject().value("text").toString(),
+                 QStringLiteral("Vuoi tornare al menù?"));
         h.run(R"J({"msgbox": [6]})J");
         h.engine.program().nav.active()->close();
         QCOMPARE(h.form(), QStringLiteral("FormMenu"));
@@ -248,13 +239,6 @@ private slots:
         enter(h);
         QCOMPARE(h.global("Esatti"), 1);
         QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 11 + 1 = dodici 1\t2\n"));
-    }
-
-    void printingSetsTheWorksheetNumber() {
-        Harness h;
-        openForm1(h);
-        h.run(R"J({"menu": "mnuStampa"})J");
-        QCOMPARE(h.global("NumeroScheda"), 9);
     }
 };
 

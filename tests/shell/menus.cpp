@@ -127,12 +127,24 @@ private slots:
         QTest::addColumn<QString>("menu");
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("caption");
-        QTest::newRow("tens and units") << "Command3" << "Command8" << "da  u";
-        QTest::newRow("carry") << "Command3" << "Command22" << "addizioni in colonna              con il cambio";
-        QTest::newRow("no carry") << "Command3" << "Command21" << "addizioni in colonna         senza cambio";
-        QTest::newRow("abacus, three blanks") << "Command2" << "Command25" << "sottrazioni   con il cambio";
-        QTest::newRow("leading blank") << "Command2" << "Command29" << " aggiungi decine";
-        QTest::newRow("main menu option") << "" << "Option1(0)" << "prosegue automaticamente  negli esercizi";
+        QTest::newRow("tens and units") << "Command3"
+                                        << "Command8"
+                                        << "da  u";
+        QTest::newRow("carry") << "Command3"
+                               << "Command22"
+                               << "addizioni in colonna              con il cambio";
+        QTest::newRow("no carry") << "Command3"
+                                  << "Command21"
+                                  << "addizioni in colonna         senza cambio";
+        QTest::newRow("abacus, three blanks") << "Command2"
+                                              << "Command25"
+                                              << "sottrazioni   con il cambio";
+        QTest::newRow("leading blank") << "Command2"
+                                       << "Command29"
+                                       << " aggiungi decine";
+        QTest::newRow("main menu option") << ""
+                                          << "Option1(0)"
+                                          << "prosegue automaticamente  negli esercizi";
     }
     void menuCaptionsKeepTheirBlanks() {
         QFETCH(QString, menu);

@@ -34,8 +34,8 @@ QString mismatch(const QJsonValue& expected, const QJsonValue& actual, const QSt
         return {};
     }
     if (expected != actual)
-        return path + ": expected " + QJsonDocument(QJsonArray{expected}).toJson(QJsonDocument::Compact) + " got " +
-               QJsonDocument(QJsonArray{actual}).toJson(QJsonDocument::Compact);
+        return path + ": expected " + QJsonDocument(QJsonArray{expected}).toJson(QJsonDocument::Compact) +
+               " got " + QJsonDocument(QJsonArray{actual}).toJson(QJsonDocument::Compact);
     return {};
 }
 
@@ -68,7 +68,8 @@ private slots:
         QProcess driver;
         driver.start(QCoreApplication::applicationDirPath() + QStringLiteral("/contarello-driver"), {});
         QVERIFY(driver.waitForStarted());
-        for (const QByteArray& c : commands) driver.write(c + '\n');
+        for (const QByteArray& c : commands)
+            driver.write(c + '\n');
         driver.closeWriteChannel();
         QVERIFY(driver.waitForFinished(60000));
         QCOMPARE(driver.exitCode(), 0);
@@ -76,7 +77,8 @@ private slots:
         QCOMPARE(answers.size(), commands.size()); // one answer a line, in order
         for (const auto& [index, expected] : expectations) {
             QVERIFY(index >= 0);
-            const QString m = mismatch(expected, QJsonDocument::fromJson(answers[index]).object(), QStringLiteral("answer"));
+            const QString m = mismatch(expected, QJsonDocument::fromJson(answers[index]).object(),
+                                       QStringLiteral("answer"));
             if (!m.isEmpty())
                 QFAIL(qPrintable(QStringLiteral("after ") + QString::fromUtf8(commands[index]) + ": " + m));
         }

@@ -15,10 +15,12 @@ QJsonObject Harness::run(const QString& json) {
     }
     const QJsonObject answer = engine.execute(doc.object());
     if (!answer.value(QStringLiteral("ok")).toBool())
-        QTest::qFail(qPrintable(json + QStringLiteral(" -> ") + answer.value(QStringLiteral("error")).toString()),
-                     __FILE__, __LINE__);
+        QTest::qFail(
+            qPrintable(json + QStringLiteral(" -> ") + answer.value(QStringLiteral("error")).toString()),
+            __FILE__, __LINE__);
     if (answer.contains(QStringLiteral("events")))
-        for (const QJsonValue& e : answer.value(QStringLiteral("events")).toArray()) pending_.append(e);
+        for (const QJsonValue& e : answer.value(QStringLiteral("events")).toArray())
+            pending_.append(e);
     return answer;
 }
 
@@ -29,7 +31,8 @@ void Harness::script(const QString& lines) {
 
 void Harness::rnd(std::initializer_list<double> values) {
     QJsonArray a;
-    for (double v : values) a.append(v);
+    for (double v : values)
+        a.append(v);
     engine.execute({{"rnd", a}});
 }
 
@@ -44,16 +47,26 @@ QJsonObject Harness::control(const QString& name) {
     return c;
 }
 
-QString Harness::caption(const QString& name) { return control(name).value(QStringLiteral("caption")).toString(); }
-QString Harness::text(const QString& name) { return control(name).value(QStringLiteral("text")).toString(); }
-bool Harness::visible(const QString& name) { return control(name).value(QStringLiteral("visible")).toBool(); }
-bool Harness::enabled(const QString& name) { return control(name).value(QStringLiteral("enabled")).toBool(); }
+QString Harness::caption(const QString& name) {
+    return control(name).value(QStringLiteral("caption")).toString();
+}
+QString Harness::text(const QString& name) {
+    return control(name).value(QStringLiteral("text")).toString();
+}
+bool Harness::visible(const QString& name) {
+    return control(name).value(QStringLiteral("visible")).toBool();
+}
+bool Harness::enabled(const QString& name) {
+    return control(name).value(QStringLiteral("enabled")).toBool();
+}
 
 int Harness::global(const QString& name) {
     return dump().value(QStringLiteral("globals")).toObject().value(name).toInt(-99999);
 }
 
-QString Harness::form() { return dump().value(QStringLiteral("form")).toString(); }
+QString Harness::form() {
+    return dump().value(QStringLiteral("form")).toString();
+}
 
 QJsonArray Harness::events(const QString& kind) {
     dump();
