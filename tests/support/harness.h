@@ -31,7 +31,7 @@ public:
     bool enabled(const QString& name);
     int global(const QString& name);
     QString form();
-    // Events since the last dump or events(), of one kind ("sound", "msgbox"...) or all.
+    // Events since the last call, of one kind ("sound", "msgbox"...) or all.
     QJsonArray events(const QString& kind = QString());
     QStringList sounds();
 
