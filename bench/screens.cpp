@@ -15,7 +15,9 @@ using namespace contarello;
 
 namespace {
 
-QJsonObject cmd(const char* json) { return QJsonDocument::fromJson(json).object(); }
+QJsonObject cmd(const char* json) {
+    return QJsonDocument::fromJson(json).object();
+}
 
 void settle() {
     QCoreApplication::processEvents();
@@ -36,8 +38,12 @@ void runToFirstPaint(benchmark::State& state, const QString& program) {
         if (!p.waitForFinished(10000) || p.exitCode() != 0) state.SkipWithError("the program did not finish");
     }
 }
-void BM_ProcessBareQtWindow(benchmark::State& state) { runToFirstPaint(state, QStringLiteral("contarello-bare-window")); }
-void BM_ProcessToFormAvvio(benchmark::State& state) { runToFirstPaint(state, QStringLiteral("contarello")); }
+void BM_ProcessBareQtWindow(benchmark::State& state) {
+    runToFirstPaint(state, QStringLiteral("contarello-bare-window"));
+}
+void BM_ProcessToFormAvvio(benchmark::State& state) {
+    runToFirstPaint(state, QStringLiteral("contarello"));
+}
 BENCHMARK(BM_ProcessBareQtWindow)->Unit(benchmark::kMillisecond)->Iterations(20);
 BENCHMARK(BM_ProcessToFormAvvio)->Unit(benchmark::kMillisecond)->Iterations(20);
 

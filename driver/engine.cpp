@@ -150,7 +150,8 @@ QJsonObject DriverEngine::execute(const QJsonObject& command) {
     if (verb.isEmpty()) return fail(QStringLiteral("unknown command"));
 
     bool setup = false;
-    for (const char* c : kSetupCommands) setup = setup || verb == QLatin1String(c);
+    for (const char* c : kSetupCommands)
+        setup = setup || verb == QLatin1String(c);
     if (!setup && !started_ && !app_->nav.ended()) {
         started_ = true;
         Main(*app_);

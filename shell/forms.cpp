@@ -284,7 +284,9 @@ void CommandButton::paintEvent(QPaintEvent*) {
             caption_.isEmpty()
                 ? 0
                 : std::min(area.height() / 2,
-                           p.fontMetrics().boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, caption_).height());
+                           p.fontMetrics()
+                               .boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, caption_)
+                               .height());
         const QSize room(area.width(), area.height() - textHeight);
         const QSize ps = picture_.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture_.size());
         const int top = area.top() + (area.height() - ps.height() - textHeight) / 2;

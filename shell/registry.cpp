@@ -6,8 +6,8 @@
 #include "numbers/ordering.h"
 #include "numbers/stepping.h"
 #include "numbers/words.h"
-#include "worksheets/stampa.h"
 #include "shell/menus.h"
+#include "worksheets/stampa.h"
 
 namespace contarello {
 
