@@ -2,6 +2,7 @@
 // screen draws.
 
 #include "shell/colori.h"
+#include "shell/program.h"
 #include "support/harness.h"
 
 #include <QTest>
@@ -165,6 +166,25 @@ private slots:
             QCOMPARE(h.form(), QStringLiteral("FormMenu"));
             QCOMPARE(h.dump().value("loaded").toArray().size(), 1);
         }
+    }
+
+    void capitalsFilter_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("filtered");
+        QTest::newRow("a") << 97 << 65;
+        QTest::newRow("z") << 122 << 90;
+        QTest::newRow("grave accent before a") << 96 << 96;
+        QTest::newRow("brace after z") << 123 << 123;
+        QTest::newRow("capital stays") << 77 << 77;
+        QTest::newRow("accented letter stays") << 224 << 224;
+        QTest::newRow("Enter stays") << 13 << 13;
+    }
+    void capitalsFilter() {
+        QFETCH(int, key);
+        QFETCH(int, filtered);
+        int k = key;
+        QCOMPARE(FiltroMaiuscole(k), filtered);
+        QCOMPARE(k, filtered); // the key itself is changed too
     }
 
     void colourVariants_data() {
