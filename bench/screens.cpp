@@ -5,6 +5,7 @@
 #include "driver/engine.h"
 #include "shell/forms.h"
 #include "shell/qtservices.h"
+#include "worksheets/generators/generators.h"
 
 #include <QApplication>
 #include <QJsonDocument>
@@ -108,6 +109,23 @@ void BM_AnsweredQuestion(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_AnsweredQuestion)->Unit(benchmark::kMicrosecond);
+
+// The largest worksheet of each kind, 25 rows of 6 exercises, built with its correction and both
+// broken into lines for the printer.
+void BM_LargestSheet(benchmark::State& state) {
+    const int numero = int(state.range(0));
+    Modulo1 g;
+    g.NumeroMassimo = 99;
+    ScriptedRandom rnd(nullptr, 7);
+    const SchedaInput in{25, 6, QStringLiteral("8"),
+                         QStringLiteral("Ordina i numeri dal minore al maggiore ")};
+    for (auto _ : state) {
+        const Scheda s = FaiScheda(numero, in, g, rnd);
+        benchmark::DoNotOptimize(AndaACapo(s.txtCD, 100));
+        benchmark::DoNotOptimize(AndaACapo(s.TextCor, 90));
+    }
+}
+BENCHMARK(BM_LargestSheet)->DenseRange(1, 24)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
