@@ -7,6 +7,7 @@
 #include "shell/registry.h"
 
 #include <QApplication>
+#include <QTimer>
 
 using namespace contarello;
 
@@ -14,7 +15,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     PrepareToolkit(application);
     QtRandom rnd;
-    QtSound sound;
+    LazySound sound(QCoreApplication::applicationDirPath());
     QtDialogs dialogs;
     QtPrinter printer;
     Program app(rnd, sound, dialogs, printer, QCoreApplication::applicationDirPath(), FormTable());
@@ -22,6 +23,12 @@ int main(int argc, char** argv) {
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
     Main(app);
     if (app.nav.ended()) return 0;
+    // The sounds get ready while the child looks at the start screen.
+    QTimer::singleShot(300, &application, [&] {
+        for (const char* f : {"si1", "si2", "si3", "si4", "si", "no"})
+            sound.preload(app.appPath + QStringLiteral("/suoni/") + QLatin1String(f) +
+                          QStringLiteral(".wav"));
+    });
     if (qEnvironmentVariableIsSet("CONTARELLO_EXIT_AFTER_FIRST_PAINT"))
         app.nav.active()->installEventFilter(new ExitAfterFirstPaint(&application));
     return application.exec();

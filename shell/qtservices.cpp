@@ -3,15 +3,14 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLibrary>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSoundEffect>
 #include <QStyleFactory>
 #include <QTranslator>
-#include <QUrl>
 #include <chrono>
 
 namespace contarello {
@@ -37,24 +36,24 @@ void QtRandom::Randomize() {
     gen_.seed(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
-QtSound::QtSound() = default;
+LazySound::~LazySound() = default;
 
-QtSound::~QtSound() {
-    for (auto& [path, effect] : effects_)
-        delete effect;
+Sound* LazySound::module() {
+    if (!tried_) {
+        tried_ = true;
+        QLibrary lib(moduleDir_ + QStringLiteral("/libcontarello_sound"));
+        using Make = Sound* (*)();
+        if (auto make = reinterpret_cast<Make>(lib.resolve("contarello_make_sound"))) sound_.reset(make());
+    }
+    return sound_.get();
 }
 
-void QtSound::play(const QString& path) {
-    if (playing_) playing_->stop();
-    playing_ = nullptr;
-    if (!QFileInfo::exists(path)) return; // a missing sound is silence
-    QSoundEffect*& effect = effects_[path];
-    if (!effect) {
-        effect = new QSoundEffect;
-        effect->setSource(QUrl::fromLocalFile(path));
-    }
-    effect->play();
-    playing_ = effect;
+void LazySound::play(const QString& path) {
+    if (Sound* s = module()) s->play(path);
+}
+
+void LazySound::preload(const QString& path) {
+    if (Sound* s = module()) s->preload(path);
 }
 
 namespace {

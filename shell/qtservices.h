@@ -1,5 +1,5 @@
 #pragma once
-// The real services: the clock-seeded random sequence, sounds through Qt Multimedia, Qt's message
+// The real services: the clock-seeded random sequence, the sounds, Qt's message
 // and input boxes, and the system's default printer.
 
 #include "shell/services.h"
@@ -9,7 +9,6 @@
 #include <memory>
 
 class QApplication;
-class QSoundEffect;
 
 namespace contarello {
 
@@ -25,15 +24,21 @@ private:
     std::mt19937 gen_{1};
 };
 
-class QtSound : public Sound {
+// The sounds come from a module loaded on first use (or by preload, once the first screen is up);
+// without the module every sound is silence.
+class LazySound : public Sound {
 public:
-    QtSound();
-    ~QtSound() override;
+    explicit LazySound(QString moduleDir) : moduleDir_(std::move(moduleDir)) {}
+    ~LazySound() override;
     void play(const QString& path) override;
+    void preload(const QString& path) override;
 
 private:
-    std::map<QString, QSoundEffect*> effects_;
-    QSoundEffect* playing_ = nullptr;
+    Sound* module();
+
+    QString moduleDir_;
+    std::unique_ptr<Sound> sound_;
+    bool tried_ = false;
 };
 
 class QtDialogs : public Dialogs {

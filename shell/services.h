@@ -38,6 +38,8 @@ public:
     virtual ~Sound() = default;
     // Plays a file without waiting; a new sound replaces the one playing; a missing file is silent.
     virtual void play(const QString& path) = 0;
+    // Gets a file ready, so that its first play starts at once.
+    virtual void preload(const QString& path) { Q_UNUSED(path); }
 };
 
 enum MsgBoxStyle : int { vbOKOnly = 0, vbCritical = 16, vbYesNoQuestion = 36, vbInformation = 64 };
