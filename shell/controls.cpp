@@ -1,0 +1,618 @@
+// The controls of the forms layer: each keeps its Qt look and gives the screens the names,
+// captions and handlers they are written with.
+
+#include "shell/forms.h"
+#include "shell/lang.h"
+#include "shell/program.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDrag>
+#include <QJsonArray>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <limits>
+
+namespace contarello {
+
+namespace {
+
+const QString kLabelMime = QStringLiteral("application/x-contarello-label");
+
+Form* formOf(QObject* o) {
+    for (; o; o = o->parent())
+        if (auto* f = qobject_cast<Form*>(o)) return f;
+    return nullptr;
+}
+
+int vbButton(Qt::MouseButton b) {
+    switch (b) {
+    case Qt::LeftButton:
+        return vbLeftButton;
+    case Qt::RightButton:
+        return vbRightButton;
+    case Qt::MiddleButton:
+        return vbMiddleButton;
+    default:
+        return 0;
+    }
+}
+
+int vbShift(Qt::KeyboardModifiers m) {
+    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
+           (m & Qt::AltModifier ? 4 : 0);
+}
+
+// The character code a key gives, as KeyPress sees it; 0 for keys that type nothing.
+int ansiOf(const QKeyEvent* e) {
+    switch (e->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Tab:
+        return 0;
+    default:
+        break;
+    }
+    return e->text().isEmpty() ? 0 : Asc(e->text().at(0));
+}
+
+// The key code KeyUp sees: letters as capitals, digits, Enter 13, Backspace 8.
+int vbKeyCode(const QKeyEvent* e) {
+    switch (e->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Backspace:
+        return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Tab:
+        return 9;
+    case Qt::Key_Delete:
+        return 46;
+    default:
+        break;
+    }
+    return e->key() < 256 ? e->key() : 0;
+}
+
+// Drops of a dragged label onto a control with a DragDrop handler.
+class DropFilter : public QObject {
+public:
+    using QObject::QObject;
+    static DropFilter* instance() {
+        static auto* f = new DropFilter(qApp);
+        return f;
+    }
+    bool eventFilter(QObject* watched, QEvent* e) override {
+        if (e->type() == QEvent::DragEnter || e->type() == QEvent::DragMove) {
+            auto* de = static_cast<QDropEvent*>(e);
+            if (de->mimeData()->hasFormat(kLabelMime)) {
+                de->acceptProposedAction();
+                return true;
+            }
+        } else if (e->type() == QEvent::Drop) {
+            auto* de = static_cast<QDropEvent*>(e);
+            Form* form = formOf(watched);
+            if (!form || !de->mimeData()->hasFormat(kLabelMime)) return false;
+            Control* source = form->find(QString::fromUtf8(de->mimeData()->data(kLabelMime)));
+            Control* target = nullptr;
+            for (Control* c : form->controls())
+                if (c->object() == watched) target = c;
+            de->acceptProposedAction();
+            if (source && target && target->DragDrop) target->DragDrop(source);
+            return true;
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+// ---- Control ----
+
+bool Control::Visible() const {
+    auto* w = const_cast<Control*>(this)->widget();
+    return w && !(w->testAttribute(Qt::WA_WState_ExplicitShowHide) && w->testAttribute(Qt::WA_WState_Hidden));
+}
+
+bool Control::Enabled() const {
+    auto* w = const_cast<Control*>(this)->widget();
+    return w && !w->testAttribute(Qt::WA_ForceDisabled);
+}
+
+void Control::acceptDrops() {
+    if (QWidget* w = widget()) {
+        w->setAcceptDrops(true);
+        w->installEventFilter(DropFilter::instance());
+    }
+}
+
+void Control::setBackColor(QColor c) {
+    backColor_ = c;
+    if (QWidget* w = widget()) {
+        QPalette p = w->palette();
+        p.setColor(QPalette::Window, c);
+        p.setColor(QPalette::Base, c);
+        p.setColor(QPalette::Button, c);
+        w->setPalette(p);
+        w->setAutoFillBackground(true);
+        w->update();
+    }
+}
+
+void Control::describeCommon(QJsonObject& out) const {
+    out[QStringLiteral("kind")] = kind();
+    out[QStringLiteral("visible")] = Visible();
+    out[QStringLiteral("enabled")] = Enabled();
+    if (backColor_.isValid()) out[QStringLiteral("backcolor")] = colourName(backColor_);
+}
+
+// ---- Label ----
+
+Label::Label(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+void Label::setCaption(const QString& c) {
+    caption_ = c;
+    setText(c);
+}
+
+void Label::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("caption")] = caption_;
+    out[QStringLiteral("dragmode")] = dragMode_;
+}
+
+bool Label::userClick() {
+    if (Click) Click();
+    return true;
+}
+
+void Label::mousePressEvent(QMouseEvent* e) {
+    pressed_ = e->button() == Qt::LeftButton;
+    pressPos_ = e->position().toPoint();
+    QLabel::mousePressEvent(e);
+}
+
+void Label::mouseMoveEvent(QMouseEvent* e) {
+    // A label that can be dragged goes with the pointer as soon as it moves a little.
+    if (dragMode_ == 1 && pressed_ && (e->position().toPoint() - pressPos_).manhattanLength() >= 3) {
+        pressed_ = false;
+        auto* drag = new QDrag(this);
+        auto* mime = new QMimeData;
+        mime->setData(kLabelMime, objectName().toUtf8());
+        drag->setMimeData(mime);
+        drag->setPixmap(grab());
+        drag->setHotSpot(pressPos_);
+        drag->exec(Qt::MoveAction);
+        return;
+    }
+    QLabel::mouseMoveEvent(e);
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* e) {
+    const bool click = pressed_ && rect().contains(e->position().toPoint());
+    pressed_ = false;
+    QLabel::mouseReleaseEvent(e);
+    if (click && Click) Click();
+}
+
+// ---- CommandButton ----
+
+CommandButton::CommandButton(QWidget* parent) : QAbstractButton(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (Click) Click();
+    });
+}
+
+void CommandButton::setCaption(const QString& c) {
+    caption_ = c;
+    setText(c);
+    update();
+}
+
+void CommandButton::setPicture(const QPixmap& p) {
+    picture_ = p;
+    update();
+}
+
+void CommandButton::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("caption")] = caption_;
+}
+
+bool CommandButton::userClick() {
+    click();
+    return true;
+}
+
+void CommandButton::mousePressEvent(QMouseEvent* e) {
+    if (MouseDown) {
+        const QPoint p = e->position().toPoint();
+        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), p.x() * kTwipsPerPixel,
+                  p.y() * kTwipsPerPixel);
+    }
+    QAbstractButton::mousePressEvent(e);
+}
+
+void CommandButton::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    QStyleOptionButton opt;
+    opt.initFrom(this);
+    opt.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
+    if (hasBackColor()) opt.palette.setColor(QPalette::Button, backColor_);
+    style()->drawControl(QStyle::CE_PushButtonBevel, &opt, &p, this);
+
+    QRect area = rect().adjusted(4, 3, -4, -3);
+    if (isDown()) area.translate(1, 1);
+    p.setFont(font());
+    p.setPen(isEnabled() ? palette().color(QPalette::ButtonText)
+                         : palette().color(QPalette::Disabled, QPalette::ButtonText));
+    // A picture stands above the caption; the caption wraps at blanks, as long menu captions need.
+    if (!picture_.isNull()) {
+        // A caption of two lines takes its room first; the picture shrinks into what is left.
+        const int textHeight =
+            caption_.isEmpty()
+                ? 0
+                : std::min(area.height() / 2,
+                           p.fontMetrics()
+                               .boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, caption_)
+                               .height());
+        const QSize room(area.width(), area.height() - textHeight);
+        const QSize ps = picture_.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture_.size());
+        const int top = area.top() + (area.height() - ps.height() - textHeight) / 2;
+        const QRect pic(area.left() + (area.width() - ps.width()) / 2, top, ps.width(), ps.height());
+        if (isEnabled())
+            p.drawPixmap(pic, picture_);
+        else
+            style()->drawItemPixmap(&p, pic, Qt::AlignCenter,
+                                    style()->generatedIconPixmap(QIcon::Disabled, picture_, &opt));
+        area.setTop(pic.bottom() + 1);
+    }
+    if (!caption_.isEmpty()) p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, caption_);
+}
+
+// ---- TextBox ----
+
+TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
+    setMaxLength(std::numeric_limits<int>::max());
+    setFrame(true);
+}
+
+void TextBox::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("text")] = text();
+    if (fontSizeSet_) out[QStringLiteral("fontsize")] = font().pointSizeF();
+}
+
+void TextBox::SetFocus() {
+    setFocus(Qt::OtherFocusReason);
+}
+
+void TextBox::setFontSize(double points) {
+    QFont f = font();
+    f.setPointSizeF(points);
+    setFont(f);
+    fontSizeSet_ = true;
+}
+
+void TextBox::keyPressEvent(QKeyEvent* e) {
+    if (KeyPress) {
+        const int code = ansiOf(e);
+        if (code != 0) {
+            int k = code;
+            KeyPress(k);
+            if (k == 0) {
+                e->accept();
+                return;
+            }
+            if (k != code) {
+                const QString t = Chr(k);
+                const int key = k >= 'a' && k <= 'z' ? k - 32 : (k < 128 ? k : t.at(0).toUpper().unicode());
+                QKeyEvent changed(e->type(), key, e->modifiers(), t, e->isAutoRepeat(), ushort(e->count()));
+                QLineEdit::keyPressEvent(&changed);
+                return;
+            }
+        }
+    }
+    QLineEdit::keyPressEvent(e);
+}
+
+void TextBox::keyReleaseEvent(QKeyEvent* e) {
+    QLineEdit::keyReleaseEvent(e);
+    // A held key repeats its presses but is released once: so is Enter taken once.
+    if (e->isAutoRepeat()) return;
+    if (KeyUp) KeyUp(vbKeyCode(e), vbShift(e->modifiers()));
+}
+
+// ---- MultiLineTextBox ----
+
+MultiLineTextBox::MultiLineTextBox(QWidget* parent) : QPlainTextEdit(parent) {
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+QString MultiLineTextBox::Text() const {
+    QString t = toPlainText();
+    t.replace(u'\n', QStringLiteral("\r\n"));
+    return t;
+}
+
+void MultiLineTextBox::setText(const QString& t) {
+    QString plain = t;
+    plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (MaxLength > 0 && plain.size() > MaxLength) plain.truncate(MaxLength);
+    setPlainText(plain);
+}
+
+void MultiLineTextBox::setFontSize(double points) {
+    QFont f = font();
+    f.setPointSizeF(points);
+    setFont(f);
+    fontSizeSet_ = true;
+}
+
+void MultiLineTextBox::SetFocus() {
+    setFocus(Qt::OtherFocusReason);
+}
+
+void MultiLineTextBox::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("text")] = Text();
+    if (fontSizeSet_) out[QStringLiteral("fontsize")] = font().pointSizeF();
+}
+
+void MultiLineTextBox::keyPressEvent(QKeyEvent* e) {
+    const bool types = !e->text().isEmpty() &&
+                       (e->text().at(0).isPrint() || e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter);
+    if (types && MaxLength > 0 && toPlainText().size() >= MaxLength && !textCursor().hasSelection()) {
+        e->accept();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(e);
+}
+
+void MultiLineTextBox::insertFromMimeData(const QMimeData* source) {
+    if (MaxLength <= 0 || !source->hasText()) {
+        QPlainTextEdit::insertFromMimeData(source);
+        return;
+    }
+    const int room = MaxLength - int(toPlainText().size()) + int(textCursor().selectedText().size());
+    if (room > 0) textCursor().insertText(source->text().left(room));
+}
+
+// ---- OptionButton ----
+
+OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
+    setAutoFillBackground(true);
+    QPalette p = palette();
+    p.setColor(QPalette::Window, QColor(0xf0, 0xf0, 0xf0));
+    setPalette(p);
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (Click) Click();
+    });
+}
+
+void OptionButton::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("caption")] = text();
+    out[QStringLiteral("value")] = isChecked();
+}
+
+bool OptionButton::userClick() {
+    click();
+    return true;
+}
+
+void OptionButton::setValue(bool v) {
+    if (v == isChecked()) return;
+    setChecked(v);
+    if (v && Click) Click();
+}
+
+void OptionButton::setBackColor(QColor c) {
+    Control::setBackColor(c);
+}
+
+// ---- Frame ----
+
+Frame::Frame(QWidget* parent) : QGroupBox(parent) {}
+
+void Frame::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("caption")] = title();
+}
+
+void Frame::setLeft(int twips) {
+    move(tw(twips), y());
+}
+void Frame::setTop(int twips) {
+    move(x(), tw(twips));
+}
+
+// ---- Shape ----
+
+Shape::Shape(QWidget* parent, Kind k, QColor fill, QColor border)
+    : QWidget(parent), shape_(k), fill_(fill), border_(border) {}
+
+void Shape::setFillColor(QColor c) {
+    fill_ = c;
+    update();
+}
+
+void Shape::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("fillcolor")] = colourName(fill_);
+}
+
+bool Shape::userClick() {
+    if (Click) Click();
+    return true;
+}
+
+void Shape::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setBrush(fill_);
+    p.setPen(QPen(border_, 1));
+    const QRectF r = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    switch (shape_) {
+    case Rectangle:
+        p.drawRect(r);
+        break;
+    case Oval:
+        p.drawEllipse(r);
+        break;
+    case Circle: {
+        const double d = std::min(r.width(), r.height());
+        p.drawEllipse(QRectF(r.center().x() - d / 2, r.center().y() - d / 2, d, d));
+        break;
+    }
+    case RoundedRectangle:
+        p.drawRoundedRect(r, 4, 4);
+        break;
+    }
+}
+
+void Shape::mousePressEvent(QMouseEvent* e) {
+    if (MouseDown) {
+        const QPoint pt = e->position().toPoint();
+        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), pt.x() * kTwipsPerPixel,
+                  pt.y() * kTwipsPerPixel);
+    }
+}
+
+void Shape::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()) && Click) Click();
+}
+
+// ---- Line ----
+
+Line::Line(QWidget* parent, int x1, int y1, int x2, int y2, QColor colour, int widthPx)
+    : QWidget(parent), colour_(colour), width_(widthPx) {
+    const QPoint a(tw(x1), tw(y1)), b(tw(x2), tw(y2));
+    const QRect box = QRect(a, b).normalized().adjusted(-widthPx, -widthPx, widthPx, widthPx);
+    setGeometry(box);
+    a_ = a - box.topLeft();
+    b_ = b - box.topLeft();
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Line::setBorderColor(QColor c) {
+    colour_ = c;
+    update();
+}
+
+void Line::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("bordercolor")] = colourName(colour_);
+}
+
+void Line::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setPen(QPen(colour_, width_));
+    p.drawLine(a_, b_);
+}
+
+// ---- ListBox ----
+
+ListBox::ListBox(QWidget* parent, bool sorted) : QListWidget(parent), sorted_(sorted) {}
+
+void ListBox::AddItem(const QString& s) {
+    int at = count();
+    if (sorted_) {
+        // A sorted list orders its items as text, small and capital letters alike.
+        at = 0;
+        while (at < count() && QString::compare(item(at)->text(), s, Qt::CaseInsensitive) <= 0)
+            ++at;
+    }
+    insertItem(at, s);
+}
+
+QString ListBox::Text() const {
+    return currentItem() ? currentItem()->text() : QString();
+}
+
+QString ListBox::List(int i) const {
+    return i >= 0 && i < count() ? item(i)->text() : QString();
+}
+
+void ListBox::describe(QJsonObject& out) const {
+    describeCommon(out);
+    QJsonArray items;
+    for (int i = 0; i < count(); ++i)
+        items.append(item(i)->text());
+    out[QStringLiteral("items")] = items;
+    out[QStringLiteral("listindex")] = currentRow();
+}
+
+// ---- MenuItem ----
+
+MenuItem::MenuItem(QObject* parent, QAction* action) : QObject(parent), action_(action) {
+    connect(action_, &QAction::triggered, this, [this] {
+        if (Click) Click();
+    });
+}
+
+bool MenuItem::Visible() const {
+    return action_->isVisible();
+}
+bool MenuItem::Enabled() const {
+    return action_->isEnabled();
+}
+void MenuItem::setVisible(bool v) {
+    action_->setVisible(v);
+}
+void MenuItem::setEnabled(bool e) {
+    action_->setEnabled(e);
+}
+bool MenuItem::Checked() const {
+    return action_->isChecked();
+}
+
+void MenuItem::setChecked(bool c) {
+    action_->setCheckable(c || action_->isCheckable());
+    action_->setChecked(c);
+}
+
+void MenuItem::setCaption(const QString& c) {
+    caption_ = c;
+    action_->setText(c);
+}
+
+QMenu* MenuItem::submenu() {
+    if (!submenu_) {
+        submenu_ = new QMenu(caption_);
+        action_->setMenu(submenu_);
+    }
+    return submenu_;
+}
+
+bool MenuItem::userClick() {
+    if (submenu_) return true; // opening a menu does nothing of its own
+    action_->trigger();
+    return true;
+}
+
+void MenuItem::describe(QJsonObject& out) const {
+    describeCommon(out);
+    out[QStringLiteral("caption")] = caption_;
+    out[QStringLiteral("checked")] = action_->isChecked();
+}
+
+} // namespace contarello
