@@ -47,41 +47,30 @@ int vbShift(Qt::KeyboardModifiers m) {
            (m & Qt::AltModifier ? 4 : 0);
 }
 
+// Keys whose codes aren't their text: what KeyPress sees (0 for none) and what KeyUp sees.
+struct SpecialKey {
+    int key, ansi, code;
+};
+constexpr SpecialKey kSpecialKeys[] = {
+    {Qt::Key_Return, 13, 13}, {Qt::Key_Enter, 13, 13}, {Qt::Key_Backspace, 8, 8},
+    {Qt::Key_Escape, 27, 27}, {Qt::Key_Tab, 0, 9},     {Qt::Key_Delete, 0, 46},
+};
+
+const SpecialKey* special(const QKeyEvent* e) {
+    for (const SpecialKey& k : kSpecialKeys)
+        if (k.key == e->key()) return &k;
+    return nullptr;
+}
+
 // The character code a key gives, as KeyPress sees it; 0 for keys that type nothing.
 int ansiOf(const QKeyEvent* e) {
-    switch (e->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return 13;
-    case Qt::Key_Backspace:
-        return 8;
-    case Qt::Key_Escape:
-        return 27;
-    case Qt::Key_Tab:
-        return 0;
-    default:
-        break;
-    }
+    if (const SpecialKey* k = special(e)) return k->ansi;
     return e->text().isEmpty() ? 0 : Asc(e->text().at(0));
 }
 
 // The key code KeyUp sees: letters as capitals, digits, Enter 13, Backspace 8.
 int vbKeyCode(const QKeyEvent* e) {
-    switch (e->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return 13;
-    case Qt::Key_Backspace:
-        return 8;
-    case Qt::Key_Escape:
-        return 27;
-    case Qt::Key_Tab:
-        return 9;
-    case Qt::Key_Delete:
-        return 46;
-    default:
-        break;
-    }
+    if (const SpecialKey* k = special(e)) return k->code;
     return e->key() < 256 ? e->key() : 0;
 }
 

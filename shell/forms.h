@@ -364,6 +364,11 @@ public:
     // Navigation as the screens say it: show the next screen, unload this one.
     void Show(const QString& formName);
     void UnloadMe();
+    // Both, in that order: how every screen leads to the next.
+    void GoTo(const QString& formName) {
+        Show(formName);
+        UnloadMe();
+    }
 
     Program& app;
     Modulo1& g;

@@ -57,8 +57,7 @@ ExerciseForm::ExerciseForm(Program& program, const QString& name, Variante varia
 
 void ExerciseForm::mnuEsci_Click() {
     if (app.dialogs.MsgBox(QStringLiteral("Vuoi tornare al menù?"), vbYesNoQuestion, kTitolo) == vbYes) {
-        Show(QStringLiteral("FormMenu"));
-        UnloadMe();
+        GoTo(QStringLiteral("FormMenu"));
     }
 }
 

@@ -23,10 +23,7 @@ FormAvvio::FormAvvio(Program& program) : Form(program, QStringLiteral("FormAvvio
     BottoneAvvio =
         button(QStringLiteral("BottoneAvvio"), QStringLiteral("Avvio"), 4110, 3600, 2880, 1695, Arial(24));
     BottoneAvvio->setPicture(pictures::Avvio());
-    BottoneAvvio->Click = [this] {
-        Show(QStringLiteral("FormMenu"));
-        UnloadMe();
-    };
+    BottoneAvvio->Click = [this] { GoTo(QStringLiteral("FormMenu")); };
 }
 
 void FormAvvio::Load() {
@@ -39,16 +36,10 @@ FormMenu::FormMenu(Program& program) : Form(program, QStringLiteral("FormMenu"),
     const QFont f = Arial(15.75);
     auto* c2 = button(QStringLiteral("Command2"), QStringLiteral("Esercizi con supporto grafico"), 1080, 480,
                       6240, 855, f);
-    c2->Click = [this] {
-        Show(QStringLiteral("FormMenuGrafici"));
-        UnloadMe();
-    };
+    c2->Click = [this] { GoTo(QStringLiteral("FormMenuGrafici")); };
     auto* c3 = button(QStringLiteral("Command3"), QStringLiteral("Esercizi con solo numeri"), 1080, 1560,
                       6240, 855, f);
-    c3->Click = [this] {
-        Show(QStringLiteral("FormMenuNumeri"));
-        UnloadMe();
-    };
+    c3->Click = [this] { GoTo(QStringLiteral("FormMenuNumeri")); };
     auto* c4 = button(QStringLiteral("Command4"), QStringLiteral("Scegli il numero massimo"), 1080, 2640,
                       6240, 855, f);
     c4->Click = [this] { Command4_Click(); };
@@ -193,17 +184,13 @@ ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)
         // A screen that isn't there yet leaves the menu where it is.
         b->Click = [this, target] {
             if (!app.nav.exists(target)) return;
-            Show(target);
-            UnloadMe();
+            GoTo(target);
         };
     }
     auto* torna = button(QStringLiteral("Command1"), QStringLiteral("Torna al menù generale"),
                          kColumnLeft + layout.command1Column * kColumnStep, layout.command1Top, kButtonWidth,
                          855, Arial(9.75));
-    torna->Click = [this] {
-        Show(QStringLiteral("FormMenu"));
-        UnloadMe();
-    };
+    torna->Click = [this] { GoTo(QStringLiteral("FormMenu")); };
 }
 
 void ExerciseMenuForm::Load() {

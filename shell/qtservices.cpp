@@ -104,7 +104,7 @@ QString QtDialogs::InputBox(const QString& prompt, const QString& title, const Q
 }
 
 void QtPrinter::endDoc() {
-    const QString text = std::exchange(text_, QString());
+    const QString text = takeText();
     if (QPrinterInfo::defaultPrinter().isNull()) return;
     QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
     QPainter p;

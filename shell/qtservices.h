@@ -47,18 +47,10 @@ public:
     QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
 };
 
-class QtPrinter : public Printer {
+class QtPrinter : public BufferedPrinter {
 public:
-    void setFontName(const QString& name) override { font_ = name; }
-    void setFontSize(double points) override { size_ = points; }
-    void print(const QString& text) override { text_ += text; }
     void endDoc() override;
     void printForm(QWidget& form, const QString& formName) override;
-
-private:
-    QString font_ = QStringLiteral("Arial");
-    double size_ = 12;
-    QString text_;
 };
 
 } // namespace contarello

@@ -50,8 +50,7 @@ QString ScriptedDialogs::InputBox(const QString& prompt, const QString& title, c
 }
 
 void RecordingPrinter::endDoc() {
-    log_.add({{"event", "print"}, {"font", font_}, {"size", size_}, {"text", text_}});
-    text_.clear();
+    log_.add({{"event", "print"}, {"font", font_}, {"size", size_}, {"text", takeText()}});
 }
 
 void RecordingPrinter::printForm(QWidget&, const QString& formName) {

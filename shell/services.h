@@ -64,6 +64,22 @@ public:
     virtual void printForm(QWidget& form, const QString& formName) = 0;
 };
 
+// A printer that gathers the document until endDoc, which takes it.
+class BufferedPrinter : public Printer {
+public:
+    void setFontName(const QString& name) override { font_ = name; }
+    void setFontSize(double points) override { size_ = points; }
+    void print(const QString& text) override { text_ += text; }
+
+protected:
+    QString takeText() { return std::exchange(text_, QString()); }
+    QString font_ = QStringLiteral("Arial");
+    double size_ = 12;
+
+private:
+    QString text_;
+};
+
 // ---- Scripted services, for the driver and the tests ----
 
 class ScriptedRandom : public Random {
@@ -105,20 +121,14 @@ private:
     std::deque<QString> texts_;
 };
 
-class RecordingPrinter : public Printer {
+class RecordingPrinter : public BufferedPrinter {
 public:
     explicit RecordingPrinter(EventLog& log) : log_(log) {}
-    void setFontName(const QString& name) override { font_ = name; }
-    void setFontSize(double points) override { size_ = points; }
-    void print(const QString& text) override { text_ += text; }
     void endDoc() override;
     void printForm(QWidget& form, const QString& formName) override;
 
 private:
     EventLog& log_;
-    QString font_ = QStringLiteral("Arial");
-    double size_ = 12;
-    QString text_;
 };
 
 } // namespace contarello
