@@ -89,4 +89,15 @@ void Harness::openFromMenu(const QString& menuButton, const QString& exerciseBut
     run(QStringLiteral(R"({"click": "%1"})").arg(exerciseButton));
 }
 
+void Harness::setLimit(int n) {
+    run(QString::fromUtf8(QJsonDocument(QJsonObject{{"inputbox", QJsonArray{QString::number(n)}}}).toJson()));
+    run(QStringLiteral(R"J({"show": "FormMenu"})J"));
+    run(QStringLiteral(R"J({"click": "Command4"})J"));
+}
+
+void Harness::answer(const QString& box, const QString& text) {
+    run(QString::fromUtf8(QJsonDocument(QJsonObject{{"settext", box}, {"text", text}}).toJson()));
+    run(QStringLiteral(R"J({"key": "%1", "code": 13})J").arg(box));
+}
+
 } // namespace contarello::test

@@ -37,6 +37,11 @@ public:
 
     // From the start screen to an exercise through the menus, with the settings as they stand.
     void openFromMenu(const QString& menuButton, const QString& exerciseButton);
+    // Sets the limit as an adult does: the main menu's "Scegli il numero massimo", answered with n.
+    // Leaves the main menu on show.
+    void setLimit(int n);
+    // Puts the text in the box at once, as a paste does, and releases Enter on it.
+    void answer(const QString& box, const QString& text);
 
     DriverEngine engine;
 
