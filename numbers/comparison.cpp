@@ -105,9 +105,7 @@ FrameOptions SimbOptions() {
 
 FormSimb::FormSimb(Program& program)
     : QuestionForm(program, QStringLiteral("FormSimb"), Variante::D, 2, SimbLook(), SimbOptions()) {
-    Label3 = label(QStringLiteral("Label3"), QStringLiteral("Scrivi il numero in cifre"), 2160, 3960, 5055,
-                   375, Arial(12));
-    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    Consegna(QStringLiteral("Scrivi il numero in cifre"));
 }
 
 void FormSimb::NuovaDomanda() {

@@ -47,7 +47,6 @@ protected:
     void MostraRispostaEsatta() override;
 
 private:
-    Label* Label3;
     int16_t QuanteDecine = 0;
     int16_t QuanteUnita = 0;
 };

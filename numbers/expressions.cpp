@@ -27,9 +27,7 @@ QuestionLook EspLook() {
 
 Formesp::Formesp(Program& program)
     : QuestionForm(program, QStringLiteral("Formesp"), Variante::A, 8, EspLook()) {
-    Label3 = label(QStringLiteral("Label3"), QStringLiteral("Scrivi il numero in cifre"), 2160, 3960, 5055,
-                   375, Arial(12));
-    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    Consegna(QStringLiteral("Scrivi il numero in cifre"));
 }
 
 // Here the colour comes first and the number after it.

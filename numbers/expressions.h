@@ -19,9 +19,6 @@ public:
 
 protected:
     void NuovaDomanda() override;
-
-private:
-    Label* Label3;
 };
 
 std::unique_ptr<Form> MakeFormesp(Program& app);

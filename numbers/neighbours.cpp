@@ -59,8 +59,7 @@ QuestionLook VicinoLook() {
 NeighbourForm::NeighbourForm(Program& program, const NeighbourMember& member)
     : QuestionForm(program, QLatin1String(member.form), member.variante, member.numeroScheda, VicinoLook()),
       member_(member) {
-    Label3 = label(QStringLiteral("Label3"), QLatin1String(member.prompt), 2160, 3960, 5055, 375, Arial(12));
-    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    Consegna(QLatin1String(member.prompt));
 }
 
 void NeighbourForm::NuovaDomanda() {

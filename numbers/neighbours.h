@@ -35,7 +35,6 @@ protected:
 
 private:
     const NeighbourMember& member_;
-    Label* Label3;
 };
 
 std::unique_ptr<Form> MakeFormpri(Program& app);

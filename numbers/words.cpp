@@ -56,8 +56,8 @@ WordsForm::WordsForm(Program& program, const WordsMember& member)
 
     // The word, what to do, then the box in the middle of the screen, clear of the "avanti" arrow.
     EtichettaNumero->setGeometry(tw(240), tw(1260), tw(8895), tw(855));
-    Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 240, 2220, 8895, 375,
-                   Arial(12));
+    Consegna(QString::fromLatin1(member.consegna));
+    Label3->setGeometry(tw(240), tw(2220), tw(8895), tw(375));
     Label3->setAlignment(Qt::AlignCenter);
     const int alto = member.fontTesto > 24 ? 1095 : 615;
     Text1->setGeometry(tw((9495 - member.larghezzaTesto) / 2), tw(2760), tw(member.larghezzaTesto), tw(alto));

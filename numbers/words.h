@@ -40,7 +40,6 @@ protected:
 
 private:
     const WordsMember& member_;
-    Label* Label3;
 };
 
 std::unique_ptr<Form> MakeFormScri(Program& app);

@@ -154,6 +154,11 @@ void QuestionForm::ScriviDomanda(const QString& caption) {
     if (Text1->isEnabled()) Text1->SetFocus();
 }
 
+void QuestionForm::Consegna(const QString& testo) {
+    Label3 = label(QStringLiteral("Label3"), testo, 2160, 3960, 5055, 375, Arial(12));
+    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+}
+
 void QuestionForm::MostraRispostaEsatta() {
     EtichettaNumero->setCaption(EtichettaNumero->Caption() + Text1->Text());
 }

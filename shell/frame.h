@@ -99,9 +99,12 @@ protected:
     virtual void MostraRispostaEsatta();
     // Empties the box, writes the question and gives the box the focus when it can take it.
     void ScriviDomanda(const QString& caption);
+    // The fixed prompt under the answer box, "Scrivi il numero in cifre" and the like.
+    void Consegna(const QString& testo);
 
     Label* EtichettaNumero;
     TextBox* Text1;
+    Label* Label3 = nullptr; // the prompt, on the screens that have one
 };
 
 // The digits of a text in their order, everything else dropped.
