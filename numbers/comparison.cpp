@@ -62,15 +62,11 @@ void FormMM::Comando_Click(int index) {
         RispostaErrata();
         return;
     }
-    RispostaEsatta();
-    if (BottoneAvanti->Visible()) {
-        BottoneAvanti->setEnabled(true);
+    RispostaEsattaPoiAvanti([this, index] {
         Label3->setCaption(Comando(index)->Caption());
         Label3->setVisible(true);
         AbilitaSimboli(false);
-    } else {
-        NuovaDomanda();
-    }
+    });
 }
 
 void FormMM::BottoneAvanti_Click() {

@@ -159,11 +159,7 @@ void FormOrd::ControllaOrdine() {
             return;
         }
     }
-    RispostaEsatta();
-    if (BottoneAvanti->Visible())
-        BottoneAvanti->setEnabled(true);
-    else
-        NuovaDomanda();
+    RispostaEsattaPoiAvanti();
 }
 
 void FormOrd::RimettiNumeri() {

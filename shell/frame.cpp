@@ -81,6 +81,16 @@ void ExerciseForm::RispostaEsatta() {
     EtichettaEsatti->setCaption(Str(g.Esatti));
 }
 
+void ExerciseForm::RispostaEsattaPoiAvanti(const std::function<void()>& inAttesa) {
+    RispostaEsatta();
+    if (BottoneAvanti && BottoneAvanti->Visible()) {
+        BottoneAvanti->setEnabled(true);
+        if (inAttesa) inAttesa();
+    } else {
+        NuovaDomanda();
+    }
+}
+
 void ExerciseForm::RispostaErrata() {
     ComandoIconaSi->setVisible(false);
     ComandoIconaNo->setVisible(true);
@@ -170,14 +180,10 @@ bool QuestionForm::RispostaGiusta() {
 void QuestionForm::Text1_KeyUp(int keyCode, int) {
     if (keyCode != 13 || Text1->Text().isEmpty()) return;
     if (RispostaGiusta()) {
-        RispostaEsatta();
-        if (BottoneAvanti->Visible()) {
-            BottoneAvanti->setEnabled(true);
+        RispostaEsattaPoiAvanti([this] {
             Text1->setEnabled(false);
             MostraRispostaEsatta();
-        } else {
-            NuovaDomanda();
-        }
+        });
     } else {
         RispostaErrata();
         if (Text1->isEnabled()) Text1->SetFocus();

@@ -52,6 +52,9 @@ protected:
     void RispostaEsatta();
     // The sad face, one more wrong answer, the gentle sound, the counter written.
     void RispostaErrata();
+    // A right answer, then either the wait for "avanti" (enabled, and what the screen shows while it
+    // waits) or, with the button hidden, the next question at once.
+    void RispostaEsattaPoiAvanti(const std::function<void()>& inAttesa = {});
 
     // The limit panel, opened by a menu item of the given name; its options set the limit from 19
     // to 99 and draw a new question.
