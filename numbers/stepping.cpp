@@ -16,12 +16,17 @@ Domanda meno(int esatto, int passo) {
     return {esatto, Str(esatto + passo) + QStringLiteral(" - ") + Str(passo) + QStringLiteral(" = ")};
 }
 
-// Tens from 10 to 90. Under a low limit the tens must stay where the question still has a result
-// from 0 up, and no more than the limit: so only the tens that fit are drawn, still with one draw.
-// "fino" is the highest step that fits; from 90 up all nine tens come. Form10ma draws its result
-// below N - 1 - x, so there a ten fits only up to N - 1: at the limit 90 the ten 90 would leave a
-// question with no answer.
+// Tens from 10 to 90, drawn as the other screens draw them. Under a low limit a ten can pass
+// "fino", the highest step that still leaves a question with a result from 0 up: that ten is drawn
+// again, a few times at most, and then only the tens that fit are drawn, so the question always
+// has an answer and never waits on luck. From 90 up (91 on Form10ma, whose result stays below
+// N - 1 - x) every ten fits at the first draw.
+constexpr int kRedrawsOfTens = 3;
 int Decine(Random& rnd, int fino) {
+    for (int i = 0; i < kRedrawsOfTens; ++i) {
+        const int x = (Draw(rnd, 9) + 1) * 10;
+        if (x <= fino) return x;
+    }
     return (Draw(rnd, std::clamp(fino / 10, 1, 9)) + 1) * 10;
 }
 

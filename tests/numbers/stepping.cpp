@@ -75,12 +75,14 @@ void SteppingTest::domanda_data() {
     riga("Form10a lowest",                {"Form10a",    99, {0, 0},        " 0 +  10 = ",   10, 20});
     riga("Form10a ninety at 99",          {"Form10a",    99, {hi, 0.5},     " 4 +  90 = ",   94, 20});
     riga("Form10a ninety at 90",          {"Form10a",    90, {hi, hi},      " 0 +  90 = ",   90, 20});
-    riga("Form10a tens within 20",        {"Form10a",    20, {hi, hi},      " 0 +  20 = ",   20, 20});
+    riga("Form10a fitting ten kept at 50",{"Form10a",    50, {0.5, 0},      " 0 +  50 = ",   50, 20});
+    riga("Form10a ninety drawn again",    {"Form10a",    50, {hi, 0.3, 0},  " 0 +  30 = ",   30, 20});
+    riga("Form10a tens within 20 at last",{"Form10a",    20, {hi, hi, hi, hi, hi}, " 0 +  20 = ", 20, 20});
     riga("Form10a ten at 20",             {"Form10a",    20, {0, hi},       " 9 +  10 = ",   19, 20});
     riga("Form100bis units",              {"Form100bis", 99, {0, hi, hi},   " 89 +  9 = ",   98, 23});
     riga("Form100bis tens",               {"Form100bis", 99, {0.5, hi, hi}, " 8 +  90 = ",   98, 23});
     riga("Form100bis units at 20",        {"Form100bis", 20, {0, hi, 0},    " 19 +  0 = ",   19, 23});
-    riga("Form100bis tens at 20",         {"Form100bis", 20, {0.5, hi, hi}, " 0 +  20 = ",   20, 23});
+    riga("Form100bis tens at 20",         {"Form100bis", 20, {0.5, hi, hi, hi, hi, hi}, " 0 +  20 = ", 20, 23});
     riga("Form1ma lowest",                {"Form1ma",    99, {0},           " 2 - 1 = ",     1,  14});
     riga("Form1ma highest at 99",         {"Form1ma",    99, {hi},          " 99 - 1 = ",    98, 14});
     riga("Form1ma highest at 20",         {"Form1ma",    20, {hi},          " 20 - 1 = ",    19, 14});
@@ -94,12 +96,12 @@ void SteppingTest::domanda_data() {
     riga("Form1m takes 0 at 20",          {"Form1m",     20, {0, 0},        " 10 -  0 = ",   10, 21});
     riga("Form10ma result 0",             {"Form10ma",   99, {0, 0},        " 10 -  10 = ",  0,  22});
     riga("Form10ma ninety at 99",         {"Form10ma",   99, {hi, 0.5},     " 94 -  90 = ",  4,  22});
-    riga("Form10ma eighty at most at 90", {"Form10ma",   90, {hi, hi},      " 88 -  80 = ",  8,  22});
-    riga("Form10ma only ten at 20",       {"Form10ma",   20, {hi, hi},      " 18 -  10 = ",  8,  22});
+    riga("Form10ma ninety redrawn at 90", {"Form10ma",   90, {hi, 0.8, hi}, " 88 -  80 = ",  8,  22});
+    riga("Form10ma only ten at 20",       {"Form10ma",   20, {hi, hi, hi, hi, hi}, " 18 -  10 = ", 8, 22});
     riga("Form100ma units",               {"Form100ma",  99, {0, hi, hi},   " 99 -  9 = ",   90, 24});
     riga("Form100ma tens",                {"Form100ma",  99, {0.5, hi, hi}, " 99 -  90 = ",  9,  24});
     riga("Form100ma ten at 20",           {"Form100ma",  20, {0.5, 0, hi},  " 20 -  10 = ",  10, 24});
-    riga("Form100ma twenty at 20",        {"Form100ma",  20, {0.5, hi, hi}, " 21 -  20 = ",  1,  24});
+    riga("Form100ma twenty at 20",        {"Form100ma",  20, {0.5, hi, hi, hi, hi, hi}, " 21 -  20 = ", 1, 24});
     // clang-format on
 }
 
