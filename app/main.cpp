@@ -4,7 +4,7 @@
 #include "shell/forms.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
-#include "shell/registry.h"
+#include "app/screens.h"
 
 #include <QApplication>
 #include <QTimer>

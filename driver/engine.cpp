@@ -1,6 +1,6 @@
 #include "driver/engine.h"
 #include "shell/forms.h"
-#include "shell/registry.h"
+#include "app/screens.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

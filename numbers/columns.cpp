@@ -22,8 +22,7 @@ void Colora(QWidget* w, QPalette::ColorRole role, QColor c) {
 } // namespace
 
 ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante variante)
-    : ExerciseForm(program, QString::fromUtf8(member.form), variante, member.numeroScheda, 10080, 5400,
-                   FrameOptions{.bottoneAvanti = false}),
+    : ExerciseForm(program, variante, member.numeroScheda, 10080, 5400, FrameOptions{.bottoneAvanti = false}),
       member_(member) {
     MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
     mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));

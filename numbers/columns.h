@@ -38,6 +38,9 @@ struct ColumnMember {
     const char* secondo; // ... and the second
 };
 
+// The member of the four by its screen's name.
+const ColumnMember* FindColumnMember(const QString& form);
+
 class ColumnForm : public ExerciseForm {
     Q_OBJECT
 public:
@@ -121,10 +124,5 @@ protected:
 private:
     void ControllaSeCambio();
 };
-
-std::unique_ptr<Form> MakeFormCol1(Program& app);
-std::unique_ptr<Form> MakeFormCol2(Program& app);
-std::unique_ptr<Form> MakeFormCol3(Program& app);
-std::unique_ptr<Form> MakeFormCol4(Program& app);
 
 } // namespace contarello

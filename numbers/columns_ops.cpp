@@ -111,6 +111,12 @@ constexpr ColumnMember kCol4{"FormCol4",
 
 } // namespace
 
+const ColumnMember* FindColumnMember(const QString& form) {
+    for (const ColumnMember* m : {&kCol1, &kCol2, &kCol3, &kCol4})
+        if (form == QLatin1String(m->form)) return m;
+    return nullptr;
+}
+
 // ---- Addition: the carry goes up from beside the units to above the tens ----
 
 FormAddizione::FormAddizione(Program& program, const ColumnMember& member)
@@ -223,19 +229,6 @@ void FormSottrazione::CambioUa_DragDrop(Control* source) {
     U1 = int16_t(U1 + 10);
     CambioUa->setCaption(QStringLiteral("1"));
     CambioUp->setCaption(QStringLiteral("-1"));
-}
-
-std::unique_ptr<Form> MakeFormCol1(Program& app) {
-    return std::make_unique<FormAddizione>(app, kCol1);
-}
-std::unique_ptr<Form> MakeFormCol2(Program& app) {
-    return std::make_unique<FormAddizione>(app, kCol2);
-}
-std::unique_ptr<Form> MakeFormCol3(Program& app) {
-    return std::make_unique<FormSottrazione>(app, kCol3);
-}
-std::unique_ptr<Form> MakeFormCol4(Program& app) {
-    return std::make_unique<FormSottrazione>(app, kCol4);
 }
 
 } // namespace contarello

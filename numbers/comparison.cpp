@@ -6,7 +6,7 @@ namespace contarello {
 
 // ---- FormMM ----
 
-FormMM::FormMM(Program& program) : ExerciseForm(program, QStringLiteral("FormMM"), Variante::D, 3) {
+FormMM::FormMM(Program& program) : ExerciseForm(program, Variante::D, 3) {
     // The two numbers stand on white, whatever colour the screen takes, so they always read clearly.
     for (int i : {0, 1}) {
         auto* n = label(indexed(QStringLiteral("EtNumero"), i), QString(), i == 0 ? 600 : 6015, 1500, 2880,
@@ -99,8 +99,7 @@ FrameOptions SimbOptions() {
 
 } // namespace
 
-FormSimb::FormSimb(Program& program)
-    : QuestionForm(program, QStringLiteral("FormSimb"), Variante::D, 2, SimbLook(), SimbOptions()) {
+FormSimb::FormSimb(Program& program) : QuestionForm(program, Variante::D, 2, SimbLook(), SimbOptions()) {
     Consegna(QStringLiteral("Scrivi il numero in cifre"));
 }
 
@@ -136,13 +135,6 @@ void FormSimb::MostraRispostaEsatta() {
 
 QJsonObject FormSimb::fields() const {
     return {{"QuanteDecine", QuanteDecine}, {"QuanteUnita", QuanteUnita}};
-}
-
-std::unique_ptr<Form> MakeFormMM(Program& app) {
-    return std::make_unique<FormMM>(app);
-}
-std::unique_ptr<Form> MakeFormSimb(Program& app) {
-    return std::make_unique<FormSimb>(app);
 }
 
 } // namespace contarello

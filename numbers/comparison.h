@@ -51,7 +51,4 @@ private:
     int16_t QuanteUnita = 0;
 };
 
-std::unique_ptr<Form> MakeFormMM(Program& app);
-std::unique_ptr<Form> MakeFormSimb(Program& app);
-
 } // namespace contarello

@@ -25,8 +25,7 @@ QuestionLook EspLook() {
 }
 } // namespace
 
-Formesp::Formesp(Program& program)
-    : QuestionForm(program, QStringLiteral("Formesp"), Variante::A, 8, EspLook()) {
+Formesp::Formesp(Program& program) : QuestionForm(program, Variante::A, 8, EspLook()) {
     Consegna(QStringLiteral("Scrivi il numero in cifre"));
 }
 
@@ -35,10 +34,6 @@ void Formesp::NuovaDomanda() {
     CaricaColori();
     g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
     ScriviDomanda(Espressione(g.NumeroEsatto));
-}
-
-std::unique_ptr<Form> MakeFormesp(Program& app) {
-    return std::make_unique<Formesp>(app);
 }
 
 } // namespace contarello

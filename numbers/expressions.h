@@ -21,6 +21,4 @@ protected:
     void NuovaDomanda() override;
 };
 
-std::unique_ptr<Form> MakeFormesp(Program& app);
-
 } // namespace contarello

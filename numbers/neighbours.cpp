@@ -56,9 +56,14 @@ QuestionLook VicinoLook() {
 
 } // namespace
 
+const NeighbourMember* FindNeighbourMember(const QString& form) {
+    for (const NeighbourMember& m : kMembers)
+        if (form == QLatin1String(m.form)) return &m;
+    return nullptr;
+}
+
 NeighbourForm::NeighbourForm(Program& program, const NeighbourMember& member)
-    : QuestionForm(program, QLatin1String(member.form), member.variante, member.numeroScheda, VicinoLook()),
-      member_(member) {
+    : QuestionForm(program, member.variante, member.numeroScheda, VicinoLook()), member_(member) {
     Consegna(QLatin1String(member.prompt));
 }
 
@@ -70,16 +75,6 @@ void NeighbourForm::NuovaDomanda() {
 
 void NeighbourForm::MostraRispostaEsatta() {
     EtichettaNumero->setCaption(member_.riga(g.NumeroEsatto));
-}
-
-std::unique_ptr<Form> MakeFormpri(Program& app) {
-    return std::make_unique<NeighbourForm>(app, kMembers[0]);
-}
-std::unique_ptr<Form> MakeFormdopo(Program& app) {
-    return std::make_unique<NeighbourForm>(app, kMembers[1]);
-}
-std::unique_ptr<Form> MakeFormmez(Program& app) {
-    return std::make_unique<NeighbourForm>(app, kMembers[2]);
 }
 
 } // namespace contarello

@@ -24,6 +24,8 @@ struct NeighbourMember {
     QString (*riga)(int esatto);
 };
 
+const NeighbourMember* FindNeighbourMember(const QString& form);
+
 class NeighbourForm : public QuestionForm {
     Q_OBJECT
 public:
@@ -36,9 +38,5 @@ protected:
 private:
     const NeighbourMember& member_;
 };
-
-std::unique_ptr<Form> MakeFormpri(Program& app);
-std::unique_ptr<Form> MakeFormdopo(Program& app);
-std::unique_ptr<Form> MakeFormmez(Program& app);
 
 } // namespace contarello

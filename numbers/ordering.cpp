@@ -39,8 +39,7 @@ QPixmap FrecciaCircolare() {
 
 } // namespace
 
-FormOrd::FormOrd(Program& program)
-    : ExerciseForm(program, QStringLiteral("FormOrd"), Variante::A, 4, kLarghezza, 6660) {
+FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarghezza, 6660) {
     setTitleBar(true);
 
     MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
@@ -207,10 +206,6 @@ QJsonObject FormOrd::fields() const {
             {"QuantiNumeri", QuantiNumeri},
             {"Scelti", Scelti},
             {"DalMinore", DalMinore}};
-}
-
-std::unique_ptr<Form> MakeFormOrd(Program& app) {
-    return std::make_unique<FormOrd>(app);
 }
 
 } // namespace contarello

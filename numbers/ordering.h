@@ -52,6 +52,4 @@ private:
     int16_t DalMinore = True;
 };
 
-std::unique_ptr<Form> MakeFormOrd(Program& app);
-
 } // namespace contarello

@@ -108,7 +108,7 @@ const StepMember* FindStepMember(const QString& form) {
 }
 
 StepForm::StepForm(Program& program, const StepMember& member)
-    : QuestionForm(program, QLatin1String(member.form), Variante::A, member.numeroScheda), member_(member) {}
+    : QuestionForm(program, Variante::A, member.numeroScheda), member_(member) {}
 
 void StepForm::NuovaDomanda() {
     const Domanda d = member_.draw(app.rnd, g.NumeroMassimo);
@@ -116,21 +116,5 @@ void StepForm::NuovaDomanda() {
     CaricaColori();
     ScriviDomanda(d.caption);
 }
-
-template <int I> std::unique_ptr<Form> MakeStepForm(Program& app) {
-    return std::make_unique<StepForm>(app, kMembers[I]);
-}
-template std::unique_ptr<Form> MakeStepForm<0>(Program&);
-template std::unique_ptr<Form> MakeStepForm<1>(Program&);
-template std::unique_ptr<Form> MakeStepForm<2>(Program&);
-template std::unique_ptr<Form> MakeStepForm<3>(Program&);
-template std::unique_ptr<Form> MakeStepForm<4>(Program&);
-template std::unique_ptr<Form> MakeStepForm<5>(Program&);
-template std::unique_ptr<Form> MakeStepForm<6>(Program&);
-template std::unique_ptr<Form> MakeStepForm<7>(Program&);
-template std::unique_ptr<Form> MakeStepForm<8>(Program&);
-template std::unique_ptr<Form> MakeStepForm<9>(Program&);
-template std::unique_ptr<Form> MakeStepForm<10>(Program&);
-template std::unique_ptr<Form> MakeStepForm<11>(Program&);
 
 } // namespace contarello

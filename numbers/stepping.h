@@ -36,6 +36,4 @@ private:
     const StepMember& member_;
 };
 
-template <int I> std::unique_ptr<Form> MakeStepForm(Program& app);
-
 } // namespace contarello

@@ -47,7 +47,7 @@ const WordsMember* FindWordsMember(const QString& form) {
 }
 
 WordsForm::WordsForm(Program& program, const WordsMember& member)
-    : QuestionForm(program, QLatin1String(member.form), Variante::D, 1, Aspetto(member)), member_(member) {
+    : QuestionForm(program, Variante::D, 1, Aspetto(member)), member_(member) {
     MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
     mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
     MenuInformazioni->setCaption(QStringLiteral("Informazioni         "));
@@ -79,13 +79,6 @@ void WordsForm::NuovaDomanda() {
 
 bool WordsForm::RispostaGiusta() {
     return member_.giusta(Text1->Text(), g.NumeroEsatto, g);
-}
-
-std::unique_ptr<Form> MakeFormScri(Program& app) {
-    return std::make_unique<WordsForm>(app, kMembers[0]);
-}
-std::unique_ptr<Form> MakeFormScri2(Program& app) {
-    return std::make_unique<WordsForm>(app, kMembers[1]);
 }
 
 } // namespace contarello

@@ -42,7 +42,4 @@ private:
     const WordsMember& member_;
 };
 
-std::unique_ptr<Form> MakeFormScri(Program& app);
-std::unique_ptr<Form> MakeFormScri2(Program& app);
-
 } // namespace contarello

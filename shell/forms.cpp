@@ -30,10 +30,9 @@ QString colourName(QColor c) {
 
 // ---- Form ----
 
-Form::Form(Program& program, const QString& name, int widthTwips, int heightTwips)
+Form::Form(Program& program, int widthTwips, int heightTwips)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), app(program), g(program.g),
       widthTwips_(widthTwips), heightTwips_(heightTwips) {
-    setObjectName(name);
     setWindowTitle(kTitolo);
     setFixedSize(tw(widthTwips), tw(heightTwips));
     client_ = new QWidget(this);

@@ -336,7 +336,8 @@ private:
 class Form : public QWidget {
     Q_OBJECT
 public:
-    Form(Program& app, const QString& name, int widthTwips, int heightTwips);
+    // The screen's name is given by the table of screens when it is made.
+    Form(Program& app, int widthTwips, int heightTwips);
     ~Form() override;
 
     virtual void Load() {}

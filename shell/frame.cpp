@@ -16,9 +16,9 @@ QString FiltroCifre(const QString& text) {
     return digits;
 }
 
-ExerciseForm::ExerciseForm(Program& program, const QString& name, Variante variante, int16_t numeroScheda,
-                           int widthTwips, int heightTwips, FrameOptions names)
-    : Form(program, name, widthTwips, heightTwips), variante_(variante), numeroScheda_(numeroScheda) {
+ExerciseForm::ExerciseForm(Program& program, Variante variante, int16_t numeroScheda, int widthTwips,
+                           int heightTwips, FrameOptions names)
+    : Form(program, widthTwips, heightTwips), variante_(variante), numeroScheda_(numeroScheda) {
     MenuAzzera = menu(names.azzera, QStringLiteral("Azzera conteggio") + kBlanks7);
     mnuStampa = menu(names.stampa, QStringLiteral("Stampa scheda") + kBlanks7);
     MenuInformazioni = menu(names.informazioni, QStringLiteral("Informazioni          "));
@@ -133,9 +133,9 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
 
 // ---- QuestionForm ----
 
-QuestionForm::QuestionForm(Program& program, const QString& name, Variante variante, int16_t numeroScheda,
-                           Look look, FrameOptions options)
-    : ExerciseForm(program, name, variante, numeroScheda, 9495, 6510, options) {
+QuestionForm::QuestionForm(Program& program, Variante variante, int16_t numeroScheda, Look look,
+                           FrameOptions options)
+    : ExerciseForm(program, variante, numeroScheda, 9495, 6510, options) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 240, 1440, 8895, 855, look.numero);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
     Text1 = textBox(QStringLiteral("Text1"), 2520, 2520, 4335, 1335, look.testo);

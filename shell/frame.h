@@ -27,8 +27,8 @@ struct QuestionLook {
 class ExerciseForm : public Form {
     Q_OBJECT
 public:
-    ExerciseForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda,
-                 int widthTwips = 9495, int heightTwips = 6510, FrameOptions options = {});
+    ExerciseForm(Program& app, Variante variante, int16_t numeroScheda, int widthTwips = 9495,
+                 int heightTwips = 6510, FrameOptions options = {});
 
     // Closing the window from outside is the same as "Esci": it asks first.
     void CloseBox() override { mnuEsci_Click(); }
@@ -86,7 +86,7 @@ class QuestionForm : public ExerciseForm {
     Q_OBJECT
 public:
     using Look = QuestionLook;
-    QuestionForm(Program& app, const QString& name, Variante variante, int16_t numeroScheda, Look look = {},
+    QuestionForm(Program& app, Variante variante, int16_t numeroScheda, Look look = {},
                  FrameOptions options = {});
 
     void Load() override;

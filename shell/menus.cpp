@@ -10,7 +10,7 @@ namespace contarello {
 
 // ---- FormAvvio ----
 
-FormAvvio::FormAvvio(Program& program) : Form(program, QStringLiteral("FormAvvio"), 11100, 6300) {
+FormAvvio::FormAvvio(Program& program) : Form(program, 11100, 6300) {
     auto* sopra = label(indexed(QStringLiteral("Label2"), 1), QStringLiteral("Calcolario"), 480, 600, 10140,
                         495, Arial(18));
     sopra->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -32,7 +32,7 @@ void FormAvvio::Load() {
 
 // ---- FormMenu ----
 
-FormMenu::FormMenu(Program& program) : Form(program, QStringLiteral("FormMenu"), 8400, 7200) {
+FormMenu::FormMenu(Program& program) : Form(program, 8400, 7200) {
     const QFont f = Arial(15.75);
     auto* c2 = button(QStringLiteral("Command2"), QStringLiteral("Esercizi con supporto grafico"), 1080, 480,
                       6240, 855, f);
@@ -165,8 +165,14 @@ constexpr ExerciseMenuForm::Layout kMenuGrafici = {"FormMenuGrafici",
 
 } // namespace
 
+const ExerciseMenuForm::Layout* ExerciseMenuForm::Find(const QString& form) {
+    for (const Layout* l : {&kMenuNumeri, &kMenuGrafici})
+        if (form == QLatin1String(l->name)) return l;
+    return nullptr;
+}
+
 ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)
-    : Form(program, QLatin1String(layout.name), layout.width, layout.height) {
+    : Form(program, layout.width, layout.height) {
     for (int i = 0; i < layout.nIntestazioni; ++i) {
         const Intestazione& h = layout.intestazioni[i];
         auto* l = label(QLatin1String(h.control), QString::fromUtf8(h.caption), h.left, h.top, h.width, 435,
@@ -195,19 +201,6 @@ ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)
 
 void ExerciseMenuForm::Load() {
     CaricaColori(*this, Variante::A);
-}
-
-std::unique_ptr<Form> MakeFormAvvio(Program& app) {
-    return std::make_unique<FormAvvio>(app);
-}
-std::unique_ptr<Form> MakeFormMenu(Program& app) {
-    return std::make_unique<FormMenu>(app);
-}
-std::unique_ptr<Form> MakeFormMenuNumeri(Program& app) {
-    return std::make_unique<ExerciseMenuForm>(app, kMenuNumeri);
-}
-std::unique_ptr<Form> MakeFormMenuGrafici(Program& app) {
-    return std::make_unique<ExerciseMenuForm>(app, kMenuGrafici);
 }
 
 } // namespace contarello

@@ -60,12 +60,9 @@ public:
         int command1Column, command1Top;
     };
     ExerciseMenuForm(Program& app, const Layout& layout);
+    // The layout of FormMenuNumeri or FormMenuGrafici by name.
+    static const Layout* Find(const QString& form);
     void Load() override;
 };
-
-std::unique_ptr<Form> MakeFormAvvio(Program& app);
-std::unique_ptr<Form> MakeFormMenu(Program& app);
-std::unique_ptr<Form> MakeFormMenuNumeri(Program& app);
-std::unique_ptr<Form> MakeFormMenuGrafici(Program& app);
 
 } // namespace contarello

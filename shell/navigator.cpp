@@ -47,7 +47,10 @@ Form* Navigator::Show(const QString& name) {
         auto it = std::find_if(table_.begin(), table_.end(),
                                [&](const FormEntry& e) { return name == QLatin1String(e.name); });
         if (it == table_.end()) return nullptr;
-        form = it->make(app_).release();
+        form = it->make(app_, name).release();
+        if (!form) return nullptr;
+        // The table is the one source of a screen's name.
+        form->setObjectName(name);
         forms_.push_back(form);
         if (log_) log_->add({{"event", "load"}, {"form", name}});
         form->Load();

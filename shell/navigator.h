@@ -13,7 +13,8 @@ struct Program;
 class Form;
 class EventLog;
 
-using FormFactory = std::unique_ptr<Form> (*)(Program&);
+// Makes the screen of that name; nullptr if it can't.
+using FormFactory = std::unique_ptr<Form> (*)(Program&, const QString& name);
 struct FormEntry {
     const char* name;
     FormFactory make;

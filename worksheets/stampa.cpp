@@ -25,7 +25,7 @@ MultiLineTextBox* Foglio(QWidget* parent) {
 
 } // namespace
 
-formStampa::formStampa(Program& program) : Form(program, QStringLiteral("formStampa"), 9480, 6795) {
+formStampa::formStampa(Program& program) : Form(program, 9480, 6795) {
     setBackColor(QColor(0xff, 0xff, 0x00));
 
     // Made first, so the sheet is first in the tab order: the adult may correct it by hand.
@@ -133,10 +133,6 @@ QJsonObject formStampa::fields() const {
     return {{QStringLiteral("NumeroRighe"), NumeroRighe},
             {QStringLiteral("NumeroColonne"), NumeroColonne},
             {QStringLiteral("GrandezzaCarattere"), GrandezzaCarattere}};
-}
-
-std::unique_ptr<Form> MakeFormStampa(Program& app) {
-    return std::make_unique<formStampa>(app);
 }
 
 } // namespace contarello

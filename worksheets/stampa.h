@@ -43,6 +43,4 @@ private:
     int16_t GrandezzaCarattere = 12;
 };
 
-std::unique_ptr<Form> MakeFormStampa(Program& app);
-
 } // namespace contarello

@@ -1,5 +1,6 @@
 #pragma once
-// Every screen of the program by name, with the function that makes it.
+// Every screen of the program by name, with the function that makes it: the one place that knows
+// them all.
 
 #include "shell/navigator.h"
 

@@ -1,0 +1,70 @@
+#include "app/screens.h"
+#include "numbers/columns.h"
+#include "numbers/comparison.h"
+#include "numbers/expressions.h"
+#include "numbers/neighbours.h"
+#include "numbers/ordering.h"
+#include "numbers/stepping.h"
+#include "numbers/words.h"
+#include "shell/menus.h"
+#include "worksheets/stampa.h"
+
+namespace contarello {
+
+namespace {
+
+// A screen of its own class.
+template <class F> std::unique_ptr<Form> Make(Program& app, const QString&) {
+    return std::make_unique<F>(app);
+}
+
+// A member of a family: its row of the family's table, found by the screen's name. A name the family
+// doesn't know makes nothing, and the test of this table says so.
+template <class F, auto find> std::unique_ptr<Form> Member(Program& app, const QString& name) {
+    const auto* member = find(name);
+    return member ? std::make_unique<F>(app, *member) : nullptr;
+}
+
+} // namespace
+
+std::vector<FormEntry> FormTable() {
+    return {
+        {"FormAvvio", Make<FormAvvio>},
+        {"FormMenu", Make<FormMenu>},
+        {"FormMenuNumeri", Member<ExerciseMenuForm, ExerciseMenuForm::Find>},
+        {"FormMenuGrafici", Member<ExerciseMenuForm, ExerciseMenuForm::Find>},
+        // stepping: +1, +10, +units, +tens and their opposites
+        {"Form1", Member<StepForm, FindStepMember>},
+        {"Form10", Member<StepForm, FindStepMember>},
+        {"Form100", Member<StepForm, FindStepMember>},
+        {"Form1a", Member<StepForm, FindStepMember>},
+        {"Form10a", Member<StepForm, FindStepMember>},
+        {"Form100bis", Member<StepForm, FindStepMember>},
+        {"Form1ma", Member<StepForm, FindStepMember>},
+        {"Form10m", Member<StepForm, FindStepMember>},
+        {"Form100m", Member<StepForm, FindStepMember>},
+        {"Form1m", Member<StepForm, FindStepMember>},
+        {"Form10ma", Member<StepForm, FindStepMember>},
+        {"Form100ma", Member<StepForm, FindStepMember>},
+        // neighbours, comparison, tens and units, expressions
+        {"Formpri", Member<NeighbourForm, FindNeighbourMember>},
+        {"Formdopo", Member<NeighbourForm, FindNeighbourMember>},
+        {"Formmez", Member<NeighbourForm, FindNeighbourMember>},
+        {"FormMM", Make<FormMM>},
+        {"FormSimb", Make<FormSimb>},
+        {"Formesp", Make<Formesp>},
+        // words and digits
+        {"FormScri", Member<WordsForm, FindWordsMember>},
+        {"FormScri2", Member<WordsForm, FindWordsMember>},
+        // ordering, column sums
+        {"FormOrd", Make<FormOrd>},
+        {"FormCol1", Member<FormAddizione, FindColumnMember>},
+        {"FormCol2", Member<FormAddizione, FindColumnMember>},
+        {"FormCol3", Member<FormSottrazione, FindColumnMember>},
+        {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // worksheets
+        {"formStampa", Make<formStampa>},
+    };
+}
+
+} // namespace contarello
