@@ -84,8 +84,7 @@ ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante va
     Eda2->DragDrop = [this](Control* s) { Casella_DragDrop(Eda2, Lda2, s, false); };
     Eu2->DragDrop = [this](Control* s) { Casella_DragDrop(Eu2, Lu2, s, false); };
 
-    registerControl(new Line(client(), member.line1Left, 3600, 6840, 3600, Qt::black, 3),
-                    QStringLiteral("Line1"));
+    line(QStringLiteral("Line1"), member.line1Left, 3600, 6840, 3600, Qt::black, 3);
 
     auto risultato = [this](const char* name, int left, QColor colour) {
         TextBox* t = textBox(QString::fromUtf8(name), left, 3840, 735, 615, Arial(24));

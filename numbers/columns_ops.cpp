@@ -122,8 +122,8 @@ const ColumnMember* FindColumnMember(const QString& form) {
 FormAddizione::FormAddizione(Program& program, const ColumnMember& member)
     : ColumnForm(program, member, Variante::B) {
     Label6->setCaption(QStringLiteral("+"));
-    registerControl(new Line(client(), 6480, 2520, 6960, 2520, Qt::black, 3), QStringLiteral("Line2"));
-    registerControl(new Line(client(), 6720, 2280, 6720, 2760, Qt::black, 3), QStringLiteral("Line3"));
+    line(QStringLiteral("Line2"), 6480, 2520, 6960, 2520, Qt::black, 3);
+    line(QStringLiteral("Line3"), 6720, 2280, 6720, 2760, Qt::black, 3);
     // The 1 of the carry sits where the tens digit of the units' sum would stand, and goes above
     // the tens, clear of their head.
     if (member.cambio) CreaCambio(5160, 3840, 4320, 780);
@@ -178,7 +178,7 @@ FormSottrazione::FormSottrazione(Program& program, const ColumnMember& member)
     : ColumnForm(program, member, Variante::B) {
     setBackColor(QColor(0x00, 0xff, 0xff));
     Label6->setCaption(QStringLiteral("-"));
-    registerControl(new Line(client(), 6360, 2160, 7080, 2160, Qt::black, 3), QStringLiteral("Line2"));
+    line(QStringLiteral("Line2"), 6360, 2160, 7080, 2160, Qt::black, 3);
     // The empty violet label waits above the tens, clear of their head, and goes just left of the
     // units of the first number.
     if (member.cambio) CreaCambio(4440, 780, 5160, 1800);

@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOptionButton>
 #include <limits>
 
@@ -45,6 +46,15 @@ int vbButton(Qt::MouseButton b) {
 int vbShift(Qt::KeyboardModifiers m) {
     return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
            (m & Qt::AltModifier ? 4 : 0);
+}
+
+using MouseHandler = std::function<void(int button, int shift, int x, int y)>;
+
+// A mouse button as a handler takes it: which button, the shift keys, and where, in twips.
+void deliver(const MouseHandler& handler, const QMouseEvent* e) {
+    if (!handler) return;
+    const QPoint at = e->position().toPoint();
+    handler(vbButton(e->button()), vbShift(e->modifiers()), at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel);
 }
 
 // Keys whose codes aren't their text: what KeyPress sees (0 for none) and what KeyUp sees.
@@ -157,6 +167,7 @@ Label::Label(QWidget* parent) : QLabel(parent) {
 void Label::setCaption(const QString& c) {
     caption_ = c;
     setText(c);
+    if (autoSize_) adjustSize();
 }
 
 void Label::describe(QJsonObject& out) const {
@@ -170,7 +181,22 @@ bool Label::userClick() {
     return true;
 }
 
+void Label::setAutoSize(bool on) {
+    autoSize_ = on;
+    if (on) {
+        setWordWrap(false);
+        adjustSize();
+    }
+}
+
+QMimeData* Label::dragData() const {
+    auto* mime = new QMimeData;
+    mime->setData(kLabelMime, objectName().toUtf8());
+    return mime;
+}
+
 void Label::mousePressEvent(QMouseEvent* e) {
+    deliver(MouseDown, e);
     pressed_ = e->button() == Qt::LeftButton;
     pressPos_ = e->position().toPoint();
     QLabel::mousePressEvent(e);
@@ -181,9 +207,7 @@ void Label::mouseMoveEvent(QMouseEvent* e) {
     if (dragMode_ == 1 && pressed_ && (e->position().toPoint() - pressPos_).manhattanLength() >= 3) {
         pressed_ = false;
         auto* drag = new QDrag(this);
-        auto* mime = new QMimeData;
-        mime->setData(kLabelMime, objectName().toUtf8());
-        drag->setMimeData(mime);
+        drag->setMimeData(dragData());
         drag->setPixmap(grab());
         drag->setHotSpot(pressPos_);
         drag->exec(Qt::MoveAction);
@@ -196,6 +220,7 @@ void Label::mouseReleaseEvent(QMouseEvent* e) {
     const bool click = pressed_ && rect().contains(e->position().toPoint());
     pressed_ = false;
     QLabel::mouseReleaseEvent(e);
+    deliver(MouseUp, e);
     if (click && Click) Click();
 }
 
@@ -230,12 +255,13 @@ bool CommandButton::userClick() {
 }
 
 void CommandButton::mousePressEvent(QMouseEvent* e) {
-    if (MouseDown) {
-        const QPoint p = e->position().toPoint();
-        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), p.x() * kTwipsPerPixel,
-                  p.y() * kTwipsPerPixel);
-    }
+    deliver(MouseDown, e);
     QAbstractButton::mousePressEvent(e);
+}
+
+void CommandButton::mouseReleaseEvent(QMouseEvent* e) {
+    QAbstractButton::mouseReleaseEvent(e);
+    deliver(MouseUp, e);
 }
 
 void CommandButton::paintEvent(QPaintEvent*) {
@@ -436,17 +462,38 @@ void Frame::setTop(int twips) {
 
 // ---- Shape ----
 
-Shape::Shape(QWidget* parent, Kind k, QColor fill, QColor border)
-    : QWidget(parent), shape_(k), fill_(fill), border_(border) {}
+Shape::Shape(QWidget* parent, Kind k) : QWidget(parent), shape_(k) {}
 
+void Shape::setBackColor(QColor c) {
+    backColor_ = c; // only the figure takes it, never the box around it
+    update();
+}
+void Shape::setBackStyle(int s) {
+    backStyle_ = s;
+    update();
+}
 void Shape::setFillColor(QColor c) {
     fill_ = c;
+    update();
+}
+void Shape::setFillStyle(int s) {
+    fillStyle_ = s;
+    update();
+}
+void Shape::setBorderColor(QColor c) {
+    border_ = c;
+    update();
+}
+void Shape::setBorderWidth(int pixels) {
+    borderWidth_ = std::max(0, pixels);
     update();
 }
 
 void Shape::describe(QJsonObject& out) const {
     describeCommon(out);
+    out[QStringLiteral("shape")] = int(shape_);
     out[QStringLiteral("fillcolor")] = colourName(fill_);
+    out[QStringLiteral("bordercolor")] = colourName(border_);
 }
 
 bool Shape::userClick() {
@@ -454,40 +501,56 @@ bool Shape::userClick() {
     return true;
 }
 
+QRectF Shape::figureRect() const {
+    // The edge lies inside the box, so a figure is never cut at its sides.
+    const double inset = borderWidth_ / 2.0;
+    QRectF r = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+    if (shape_ == Square || shape_ == Circle || shape_ == RoundedSquare) {
+        const double d = std::min(r.width(), r.height());
+        r = QRectF(r.center().x() - d / 2, r.center().y() - d / 2, d, d);
+    }
+    return r;
+}
+
 void Shape::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    p.setBrush(fill_);
-    p.setPen(QPen(border_, 1));
-    const QRectF r = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QRectF r = figureRect();
+    QPainterPath figure;
     switch (shape_) {
     case Rectangle:
-        p.drawRect(r);
+    case Square:
+        figure.addRect(r);
         break;
     case Oval:
-        p.drawEllipse(r);
+    case Circle:
+        figure.addEllipse(r);
         break;
-    case Circle: {
-        const double d = std::min(r.width(), r.height());
-        p.drawEllipse(QRectF(r.center().x() - d / 2, r.center().y() - d / 2, d, d));
-        break;
-    }
     case RoundedRectangle:
-        p.drawRoundedRect(r, 4, 4);
+    case RoundedSquare: {
+        const double radius = std::min(r.width(), r.height()) / 6;
+        figure.addRoundedRect(r, radius, radius);
         break;
     }
+    }
+    if (backStyle_ == Opaque && backColor_.isValid()) p.fillPath(figure, backColor_);
+    if (fillStyle_ == Solid) p.fillPath(figure, fill_);
+    if (borderWidth_ > 0) p.strokePath(figure, QPen(border_, borderWidth_));
 }
 
 void Shape::mousePressEvent(QMouseEvent* e) {
-    if (MouseDown) {
-        const QPoint pt = e->position().toPoint();
-        MouseDown(vbButton(e->button()), vbShift(e->modifiers()), pt.x() * kTwipsPerPixel,
-                  pt.y() * kTwipsPerPixel);
-    }
+    deliver(MouseDown, e);
 }
 
 void Shape::mouseReleaseEvent(QMouseEvent* e) {
+    deliver(MouseUp, e);
     if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()) && Click) Click();
+}
+
+// ---- Image ----
+
+Image::Image(QWidget* parent) : QLabel(parent) {
+    setScaledContents(true);
 }
 
 // ---- Line ----

@@ -125,6 +125,25 @@ Frame* Form::frame(const QString& name, const QString& caption, int left, int to
     return f;
 }
 
+Shape* Form::shape(const QString& name, Shape::Kind k, int left, int top, int width, int height,
+                   QWidget* parent) {
+    return adopt(new Shape(parent ? parent : client_, k), name, left, top, width, height);
+}
+
+Line* Form::line(const QString& name, int x1, int y1, int x2, int y2, QColor colour, int widthPx,
+                 QWidget* parent) {
+    auto* l = new Line(parent ? parent : client_, x1, y1, x2, y2, colour, widthPx);
+    registerControl(l, name);
+    return l;
+}
+
+Image* Form::image(const QString& name, const QPixmap& picture, int left, int top, int width, int height,
+                   QWidget* parent) {
+    auto* i = adopt(new Image(parent ? parent : client_), name, left, top, width, height);
+    i->setPicture(picture);
+    return i;
+}
+
 MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* parentItem, MenuItem* before) {
     if (!menuBar_) {
         menuBar_ = new QMenuBar(this);

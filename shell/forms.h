@@ -22,6 +22,7 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+class QMimeData;
 
 namespace contarello {
 
@@ -87,8 +88,15 @@ public:
     void setCaption(const QString& c);
     int DragMode() const { return dragMode_; }
     void setDragMode(int m) { dragMode_ = m; }
+    // A label that sizes itself to its caption, from where it stands.
+    void setAutoSize(bool on);
+    // What a drag of this label carries; a drop on a control with a DragDrop handler delivers it.
+    QMimeData* dragData() const;
 
     std::function<void()> Click;
+    // Button as 1 left, 2 right, 4 middle; x and y in twips from the label's corner.
+    std::function<void(int button, int shift, int x, int y)> MouseDown;
+    std::function<void(int button, int shift, int x, int y)> MouseUp;
 
 protected:
     void mousePressEvent(QMouseEvent* e) override;
@@ -98,6 +106,7 @@ protected:
 private:
     QString caption_;
     int dragMode_ = 0;
+    bool autoSize_ = false;
     QPoint pressPos_;
     bool pressed_ = false;
 };
@@ -116,14 +125,16 @@ public:
     void setPicture(const QPixmap& p);
 
     std::function<void()> Click;
-    // Button as 1 left, 2 right, 4 middle.
+    // Button as 1 left, 2 right, 4 middle; x and y in twips from the button's corner.
     std::function<void(int button, int shift, int x, int y)> MouseDown;
+    std::function<void(int button, int shift, int x, int y)> MouseUp;
 
     QSize sizeHint() const override { return size(); }
 
 protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
 
 private:
     QString caption_;
@@ -213,20 +224,40 @@ public:
     void setTop(int twips);
 };
 
-// A rectangle, rounded rectangle or circle filled with one colour; clickable where a screen wants.
+// A figure drawn in its own colours: the inside in BackColor when BackStyle is opaque, over it
+// FillColor when FillStyle is solid, and the edge in BorderColor. A square or a circle keeps equal
+// sides in the middle of its box; nothing outside the figure is painted, so a bead is a round bead
+// on whatever stands behind it.
 class Shape : public QWidget, public Control {
     Q_OBJECT
 public:
-    enum Kind { Rectangle, Oval, Circle, RoundedRectangle };
-    Shape(QWidget* parent, Kind k, QColor fill, QColor border = Qt::black);
+    enum Kind { Rectangle = 0, Square = 1, Oval = 2, Circle = 3, RoundedRectangle = 4, RoundedSquare = 5 };
+    enum BackStyles { Transparent = 0, Opaque = 1 };
+    enum FillStyles { Solid = 0, NoFill = 1 };
+    Shape(QWidget* parent, Kind k);
     QString kind() const override { return QStringLiteral("shape"); }
     QObject* object() override { return this; }
     void describe(QJsonObject& out) const override;
     bool userClick() override;
-    void setFillColor(QColor c);
+
+    Kind ShapeKind() const { return shape_; }
+    void setBackColor(QColor c) override;
+    int BackStyle() const { return backStyle_; }
+    void setBackStyle(int s);
     QColor FillColor() const { return fill_; }
+    void setFillColor(QColor c);
+    int FillStyle() const { return fillStyle_; }
+    void setFillStyle(int s);
+    QColor BorderColor() const { return border_; }
+    void setBorderColor(QColor c);
+    void setBorderWidth(int pixels);
+    // The figure inside the box, in the shape's own pixels.
+    QRectF figureRect() const;
+
     std::function<void()> Click;
+    // Button as 1 left, 2 right, 4 middle; x and y in twips from the shape's corner.
     std::function<void(int button, int shift, int x, int y)> MouseDown;
+    std::function<void(int button, int shift, int x, int y)> MouseUp;
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -235,16 +266,21 @@ protected:
 
 private:
     Kind shape_;
-    QColor fill_, border_;
+    int backStyle_ = Transparent;
+    int fillStyle_ = NoFill;
+    QColor fill_ = Qt::black, border_ = Qt::black;
+    int borderWidth_ = 1;
 };
 
+// A picture in a box, drawn to the box's size.
 class Image : public QLabel, public Control {
     Q_OBJECT
 public:
-    explicit Image(QWidget* parent) : QLabel(parent) {}
+    explicit Image(QWidget* parent);
     QString kind() const override { return QStringLiteral("image"); }
     QObject* object() override { return this; }
     void describe(QJsonObject& out) const override { describeCommon(out); }
+    void setPicture(const QPixmap& p) { setPixmap(p); }
 };
 
 class Line : public QWidget, public Control {
@@ -386,6 +422,13 @@ protected:
                          int height, const QFont& font, QWidget* parent = nullptr);
     Frame* frame(const QString& name, const QString& caption, int left, int top, int width, int height,
                  const QFont& font, QWidget* parent = nullptr);
+    Shape* shape(const QString& name, Shape::Kind k, int left, int top, int width, int height,
+                 QWidget* parent = nullptr);
+    // A line between two points, in twips, with its width in pixels.
+    Line* line(const QString& name, int x1, int y1, int x2, int y2, QColor colour = Qt::black,
+               int widthPx = 1, QWidget* parent = nullptr);
+    Image* image(const QString& name, const QPixmap& picture, int left, int top, int width, int height,
+                 QWidget* parent = nullptr);
     // A menu item on the bar, or in the submenu of parentItem; before puts it ahead of that item.
     MenuItem* menu(const QString& name, const QString& caption, MenuItem* parentItem = nullptr,
                    MenuItem* before = nullptr);
