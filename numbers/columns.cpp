@@ -21,23 +21,29 @@ void Colora(QWidget* w, QPalette::ColorRole role, QColor c) {
 
 } // namespace
 
-ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante variante)
-    : ExerciseForm(program, variante, member.numeroScheda, 10080, 5400, FrameOptions{.bottoneAvanti = false}),
-      member_(member) {
-    MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
-    mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
-    MenuInformazioni->setCaption(QString::fromUtf8(member.informazioni));
+namespace {
+// No "avanti": the last digit placed goes on by itself. The counters and the faces stand right of the
+// column.
+FrameOptions Opzioni(const ColumnMember& m) {
+    FrameOptions o;
+    o.bottoneAvanti = false;
+    o.captions = {kMenuLargo.azzera, kMenuLargo.stampa, m.informazioni};
+    o.layout.label1 = {7560, 1860, 1095, 375};
+    o.layout.esatti = {8760, 1800, 1095, 495};
+    o.layout.label2 = {7560, 2700, 1095, 375};
+    o.layout.errati = {8760, 2640, 1095, 495};
+    o.layout.facce = {8160, 3600, 855, 750};
+    return o;
+}
+} // namespace
 
-    // The instruction runs across the top; the counters and the faces stand right of the column.
+ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante variante)
+    : ExerciseForm(program, variante, member.numeroScheda, 10080, 5400, Opzioni(member)), member_(member) {
+
+    // The instruction runs across the top.
     Label3 = label(QStringLiteral("Label3"), QString(), 120, 90, 9840, 660, Arial(14.25));
     Label3->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     Label3->setBackColor(kCiano);
-    Label1->setGeometry(tw(7560), tw(1860), tw(1095), tw(375));
-    EtichettaEsatti->setGeometry(tw(8760), tw(1800), tw(1095), tw(495));
-    Label2->setGeometry(tw(7560), tw(2700), tw(1095), tw(375));
-    EtichettaErrati->setGeometry(tw(8760), tw(2640), tw(1095), tw(495));
-    ComandoIconaSi->setGeometry(tw(8160), tw(3600), tw(855), tw(750));
-    ComandoIconaNo->setGeometry(tw(8160), tw(3600), tw(855), tw(750));
 
     // The operation in a row.
     auto riga = [this](const char* name, int left, int width = 495) {
@@ -133,6 +139,7 @@ void ColumnForm::Cifra(Label* l, int16_t cifra, bool anchePerZero) {
 }
 
 void ColumnForm::Load() {
+    ExerciseForm::Load();
     AzzeraConteggio();
 }
 

@@ -32,6 +32,7 @@ FormMM::FormMM(Program& program) : ExerciseForm(program, Variante::D, 3) {
 }
 
 void FormMM::Load() {
+    ExerciseForm::Load();
     BottoneAvanti->setVisible(g.AttendiBottone != False);
     AzzeraConteggio();
     NuovaDomanda();

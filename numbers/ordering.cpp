@@ -37,14 +37,25 @@ QPixmap FrecciaCircolare() {
     return pm;
 }
 
+// The two columns fill the left of the screen; counters and faces in a row at the top right, the
+// buttons under them.
+FrameOptions Opzioni() {
+    FrameOptions o;
+    o.captions = kMenuLargo;
+    o.layout.label1 = {7200, 300, 960, 375};
+    o.layout.esatti = {8160, 240, 960, 495};
+    o.layout.label2 = {9240, 300, 960, 375};
+    o.layout.errati = {10200, 240, 960, 495};
+    o.layout.facce = {11280, 120, 855, 750};
+    o.layout.avanti = {8460, 3240, 2415, 1215};
+    return o;
+}
+
 } // namespace
 
-FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarghezza, 6660) {
+FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarghezza, 6660, Opzioni()) {
     setTitleBar(true);
 
-    MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
-    mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
-    MenuInformazioni->setCaption(QStringLiteral("Informazioni         "));
     MenuQuantiNumeri = menu(QStringLiteral("MenuQuantiNumeri"),
                             QStringLiteral("Scegli quanti numeri da ordinare        "), nullptr, mnuStampa);
     MenuOrdinamento = menu(QStringLiteral("MenuOrdinamento"), QStringLiteral("Tipo di ordinamento        "),
@@ -79,18 +90,10 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
         EtNumero.set(i, l);
     }
 
-    Label1->setGeometry(tw(7200), tw(300), tw(960), tw(375));
-    EtichettaEsatti->setGeometry(tw(8160), tw(240), tw(960), tw(495));
-    Label2->setGeometry(tw(9240), tw(300), tw(960), tw(375));
-    EtichettaErrati->setGeometry(tw(10200), tw(240), tw(960), tw(495));
-    ComandoIconaSi->setGeometry(tw(11280), tw(120), tw(855), tw(750));
-    ComandoIconaNo->setGeometry(tw(11280), tw(120), tw(855), tw(750));
-
     BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), 8460, 1680,
                                2415, 1215, Arial(14.25));
     BottoneRicomincia->setPicture(FrecciaCircolare());
     BottoneRicomincia->Click = [this] { RimettiNumeri(); };
-    BottoneAvanti->setGeometry(tw(8460), tw(3240), tw(2415), tw(1215));
 
     // Read by the worksheet of this exercise as the length of its rows; never shown.
     Label3 = label(QStringLiteral("Label3"), QString(), 6720, 5040, 495, 375, Arial(8, false));
@@ -112,6 +115,7 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
 }
 
 void FormOrd::Load() {
+    ExerciseForm::Load();
     BottoneAvanti->setVisible(g.AttendiBottone != False);
     Option3D1(4)->setValue(true);
     ScegliOrdinamento(true);

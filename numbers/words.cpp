@@ -34,8 +34,19 @@ constexpr std::array<WordsMember, 2> kMembers = {{
     {"FormScri2", "Scrivi il numero in lettere", 18, 8670, false, Cifre, ParolaGiusta, FiltroMaiuscole},
 }};
 
+// The word, what to do, then the box in the middle of the screen, clear of the "avanti" arrow.
 QuestionLook Aspetto(const WordsMember& m) {
-    return {Arial(26.25), Arial(m.fontTesto)};
+    QuestionLook look{Arial(26.25), Arial(m.fontTesto)};
+    look.etichettaNumero = {240, 1260, 8895, 855};
+    look.consegna = {240, 2220, 8895, 375};
+    look.text1 = {(9495 - m.larghezzaTesto) / 2, 2760, m.larghezzaTesto, m.fontTesto > 24 ? 1095 : 615};
+    return look;
+}
+
+FrameOptions Opzioni() {
+    FrameOptions o;
+    o.captions = kMenuLargo;
+    return o;
 }
 
 } // namespace
@@ -47,20 +58,12 @@ const WordsMember* FindWordsMember(const QString& form) {
 }
 
 WordsForm::WordsForm(Program& program, const WordsMember& member)
-    : QuestionForm(program, Variante::D, 1, Aspetto(member)), member_(member) {
-    MenuAzzera->setCaption(QStringLiteral("Azzera conteggio        "));
-    mnuStampa->setCaption(QStringLiteral("Stampa scheda        "));
-    MenuInformazioni->setCaption(QStringLiteral("Informazioni         "));
+    : QuestionForm(program, Variante::D, 1, Aspetto(member), Opzioni()), member_(member) {
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuNumeroMassimo"),
                                  QStringLiteral("Numero Massimo          "), mnuStampa);
 
-    // The word, what to do, then the box in the middle of the screen, clear of the "avanti" arrow.
-    EtichettaNumero->setGeometry(tw(240), tw(1260), tw(8895), tw(855));
     Consegna(QString::fromLatin1(member.consegna));
-    Label3->setGeometry(tw(240), tw(2220), tw(8895), tw(375));
     Label3->setAlignment(Qt::AlignCenter);
-    const int alto = member.fontTesto > 24 ? 1095 : 615;
-    Text1->setGeometry(tw((9495 - member.larghezzaTesto) / 2), tw(2760), tw(member.larghezzaTesto), tw(alto));
     if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
     // The limit panel lies over all the rest.
     CorniceNumeroMassimo->raise();

@@ -5,10 +5,6 @@
 
 namespace contarello {
 
-namespace {
-const QString kBlanks7 = QStringLiteral("       ");
-}
-
 QString FiltroCifre(const QString& text) {
     QString digits;
     for (QChar c : text)
@@ -17,32 +13,40 @@ QString FiltroCifre(const QString& text) {
 }
 
 ExerciseForm::ExerciseForm(Program& program, Variante variante, int16_t numeroScheda, int widthTwips,
-                           int heightTwips, FrameOptions names)
-    : Form(program, widthTwips, heightTwips), variante_(variante), numeroScheda_(numeroScheda) {
-    MenuAzzera = menu(names.azzera, QStringLiteral("Azzera conteggio") + kBlanks7);
-    mnuStampa = menu(names.stampa, QStringLiteral("Stampa scheda") + kBlanks7);
-    MenuInformazioni = menu(names.informazioni, QStringLiteral("Informazioni          "));
-    mnuEsci = menu(names.esci, QStringLiteral("Esci"));
+                           int heightTwips, FrameOptions options)
+    : Form(program, widthTwips, heightTwips), variante_(variante), numeroScheda_(numeroScheda),
+      options_(options) {
+    const MenuCaptions& c = options.captions;
+    MenuAzzera = menu(options.azzera, QString::fromUtf8(c.azzera));
+    if (options.stampaScheda) mnuStampa = menu(options.stampa, QString::fromUtf8(c.stampa));
+    MenuInformazioni = menu(options.informazioni, QString::fromUtf8(c.informazioni));
+    mnuEsci = menu(options.esci, QStringLiteral("Esci"));
 
-    Label1 = label(QStringLiteral("Label1"), QStringLiteral("Esatti"), 360, 480, 1095, 375, Arial(12));
-    EtichettaEsatti =
-        label(QStringLiteral("EtichettaEsatti"), QStringLiteral("0"), 1500, 420, 1095, 495, Arial(18));
-    Label2 = label(QStringLiteral("Label2"), QStringLiteral("Errati"), 3000, 480, 1095, 375, Arial(12));
-    EtichettaErrati =
-        label(QStringLiteral("EtichettaErrati"), QStringLiteral("0"), 4140, 420, 1095, 495, Arial(18));
+    const FrameLayout& at = options.layout;
+    auto place = [this](const char* name, const QString& caption, const Rect& r, const QFont& font) {
+        return label(QLatin1String(name), caption, r.left, r.top, r.width, r.height, font);
+    };
+    Label1 = place("Label1", QStringLiteral("Esatti"), at.label1, Arial(12));
+    EtichettaEsatti = place("EtichettaEsatti", QStringLiteral("0"), at.esatti, Arial(18));
+    Label2 = place("Label2", QStringLiteral("Errati"), at.label2, Arial(12));
+    EtichettaErrati = place("EtichettaErrati", QStringLiteral("0"), at.errati, Arial(18));
 
     // The two faces share one place, so exactly one of them is seen: the sad one until a right answer.
-    ComandoIconaSi = button(QStringLiteral("ComandoIconaSi"), QString(), 6045, 315, 855, 750, Arial(8));
+    const Rect& f = at.facce;
+    ComandoIconaSi =
+        button(QStringLiteral("ComandoIconaSi"), QString(), f.left, f.top, f.width, f.height, Arial(8));
     ComandoIconaSi->setPicture(pictures::FacciaSorridente());
     ComandoIconaSi->setVisible(false);
     ComandoIconaSi->setFocusPolicy(Qt::NoFocus);
-    ComandoIconaNo = button(QStringLiteral("ComandoIconaNo"), QString(), 6045, 315, 855, 750, Arial(8));
+    ComandoIconaNo =
+        button(QStringLiteral("ComandoIconaNo"), QString(), f.left, f.top, f.width, f.height, Arial(8));
     ComandoIconaNo->setPicture(pictures::FacciaTriste());
     ComandoIconaNo->setFocusPolicy(Qt::NoFocus);
 
-    if (names.bottoneAvanti) {
-        BottoneAvanti = button(QStringLiteral("BottoneAvanti"), QStringLiteral("avanti"), 7440, 4080, 1575,
-                               1215, Arial(14.25));
+    if (options.bottoneAvanti) {
+        const Rect& a = at.avanti;
+        BottoneAvanti = button(QStringLiteral("BottoneAvanti"), QStringLiteral("avanti"), a.left, a.top,
+                               a.width, a.height, Arial(14.25));
         BottoneAvanti->setPicture(pictures::Freccia());
         BottoneAvanti->setVisible(false);
         BottoneAvanti->setEnabled(false);
@@ -50,9 +54,14 @@ ExerciseForm::ExerciseForm(Program& program, Variante variante, int16_t numeroSc
     }
 
     MenuAzzera->Click = [this] { AzzeraConteggio(); };
-    mnuStampa->Click = [this] { mnuStampa_Click(); };
+    if (mnuStampa) mnuStampa->Click = [this] { mnuStampa_Click(); };
     MenuInformazioni->Click = [this] { MostraInformazioni(app); };
     mnuEsci->Click = [this] { mnuEsci_Click(); };
+}
+
+void ExerciseForm::Load() {
+    // Choosing the option runs its click: the limit, a question, the panel hidden.
+    if (options_.limiteA99 && OpzioneNumeroMassimo(8)) OpzioneNumeroMassimo(8)->setValue(true);
 }
 
 void ExerciseForm::mnuEsci_Click() {
@@ -62,8 +71,9 @@ void ExerciseForm::mnuEsci_Click() {
 }
 
 void ExerciseForm::mnuStampa_Click() {
-    g.NumeroScheda = numeroScheda_;
-    Show(QStringLiteral("formStampa"));
+    const QString scheda = QString::fromUtf8(options_.scheda);
+    if (scheda == QLatin1String("formStampa")) g.NumeroScheda = numeroScheda_;
+    Show(scheda);
 }
 
 void ExerciseForm::AzzeraConteggio() {
@@ -135,15 +145,19 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
 
 QuestionForm::QuestionForm(Program& program, Variante variante, int16_t numeroScheda, Look look,
                            FrameOptions options)
-    : ExerciseForm(program, variante, numeroScheda, 9495, 6510, options) {
-    EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 240, 1440, 8895, 855, look.numero);
+    : ExerciseForm(program, variante, numeroScheda, 9495, 6510, options), consegna_(look.consegna) {
+    const Rect& n = look.etichettaNumero;
+    EtichettaNumero =
+        label(QStringLiteral("EtichettaNumero"), QString(), n.left, n.top, n.width, n.height, look.numero);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
-    Text1 = textBox(QStringLiteral("Text1"), 2520, 2520, 4335, 1335, look.testo);
+    const Rect& t = look.text1;
+    Text1 = textBox(QStringLiteral("Text1"), t.left, t.top, t.width, t.height, look.testo);
     Text1->setAlignment(Qt::AlignCenter);
     Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
 }
 
 void QuestionForm::Load() {
+    ExerciseForm::Load();
     AzzeraConteggio();
 }
 
@@ -165,7 +179,8 @@ void QuestionForm::ScriviDomanda(const QString& caption) {
 }
 
 void QuestionForm::Consegna(const QString& testo) {
-    Label3 = label(QStringLiteral("Label3"), testo, 2160, 3960, 5055, 375, Arial(12));
+    const Rect& r = consegna_;
+    Label3 = label(QStringLiteral("Label3"), testo, r.left, r.top, r.width, r.height, Arial(12));
     Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 }
 

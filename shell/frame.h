@@ -8,20 +8,57 @@
 
 namespace contarello {
 
-// What a screen changes of the frame: the names of its menu items (a few screens spell one
-// differently), and whether it has the "avanti" button at all.
+// A place on the screen, in twips.
+struct Rect {
+    int left, top, width, height;
+};
+
+// Where the frame's own controls stand: the counters in a row at the top, the faces at the right
+// of the row, "avanti" low on the right.
+struct FrameLayout {
+    Rect label1{360, 480, 1095, 375};
+    Rect esatti{1500, 420, 1095, 495};
+    Rect label2{3000, 480, 1095, 375};
+    Rect errati{4140, 420, 1095, 495};
+    Rect facce{6045, 315, 855, 750};
+    Rect avanti{7440, 4080, 1575, 1215};
+};
+
+// The captions of the first three menu items: their blanks space the items along the bar.
+struct MenuCaptions {
+    const char* azzera = "Azzera conteggio       ";
+    const char* stampa = "Stampa scheda       ";
+    const char* informazioni = "Informazioni          ";
+};
+// The spacing most screens after the first ones take.
+constexpr MenuCaptions kMenuLargo{"Azzera conteggio        ", "Stampa scheda        ",
+                                  "Informazioni         "};
+
+// What a screen changes of the frame.
 struct FrameOptions {
+    // The names of the menu items: a few screens spell one differently.
     const char* azzera = "MenuAzzera";
     const char* stampa = "mnuStampa";
     const char* informazioni = "MenuInformazioni";
     const char* esci = "mnuEsci";
+    MenuCaptions captions;
     bool bottoneAvanti = true;
+    // Whether the screen prints at all, and what: formStampa with the screen's worksheet number, or a
+    // drawn worksheet screen of its own.
+    bool stampaScheda = true;
+    const char* scheda = "formStampa";
+    // The screens whose limit panel starts at 99 each time they are loaded, whatever the main menu said.
+    bool limiteA99 = false;
+    FrameLayout layout;
 };
 
-// The fonts of the question and of the answer box.
+// The fonts and places of the question, the answer box and the prompt under it.
 struct QuestionLook {
     QFont numero = Arial(18);
     QFont testo = Arial(48);
+    Rect etichettaNumero{240, 1440, 8895, 855};
+    Rect text1{2520, 2520, 4335, 1335};
+    Rect consegna{2160, 3960, 5055, 375};
 };
 
 class ExerciseForm : public Form {
@@ -32,6 +69,9 @@ public:
 
     // Closing the window from outside is the same as "Esci": it asks first.
     void CloseBox() override { mnuEsci_Click(); }
+    // The frame's part of Load, which every screen's Load runs first: on the screens that ask for it,
+    // the limit panel chooses 99.
+    void Load() override;
 
     Variante variante() const { return variante_; }
     int16_t numeroScheda() const { return numeroScheda_; }
@@ -69,7 +109,7 @@ protected:
     CommandButton* ComandoIconaNo;
     CommandButton* BottoneAvanti = nullptr; // none on the screens without it
     MenuItem* MenuAzzera;
-    MenuItem* mnuStampa;
+    MenuItem* mnuStampa = nullptr; // none on the screens that don't print
     MenuItem* MenuInformazioni;
     MenuItem* mnuEsci;
     Frame* CorniceNumeroMassimo = nullptr;
@@ -78,6 +118,7 @@ protected:
 private:
     Variante variante_;
     int16_t numeroScheda_;
+    FrameOptions options_;
 };
 
 // The screens that ask a question in EtichettaNumero and take the answer typed in Text1 on Enter:
@@ -104,6 +145,7 @@ protected:
     void ScriviDomanda(const QString& caption);
     // The fixed prompt under the answer box, "Scrivi il numero in cifre" and the like.
     void Consegna(const QString& testo);
+    Rect consegna_;
 
     Label* EtichettaNumero;
     TextBox* Text1;
