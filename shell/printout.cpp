@@ -72,13 +72,15 @@ template <typename Draw> EsitoPdf Scrivi(const QString& path, const QString& tit
     if (!folder.isDir()) return {false, QStringLiteral("la cartella non esiste")};
     if (file.isDir()) return {false, QStringLiteral("con quel nome c'è già una cartella")};
     QSaveFile out(path);
-    if (!out.open(QIODevice::WriteOnly)) {
+    // Unbuffered, so that a disk that fills up shows in the write itself: the buffered close
+    // doesn't always tell a short write.
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         if (!folder.isWritable() || (file.exists() && !file.isWritable()))
             return {false, QStringLiteral("non c'è il permesso di scrivere lì")};
         return {false, QStringLiteral("il file non si può creare (") + out.errorString() + u')'};
     }
     if (out.write(bytes) != bytes.size() || !out.commit())
-        return {false, QStringLiteral("il disco è pieno o non accetta il file (") + out.errorString() + u')'};
+        return {false, QStringLiteral("il disco è pieno o non accetta il file")};
     return {};
 }
 
