@@ -1,5 +1,6 @@
 // The program: real services, the table of screens, and Main.
 
+#include "app/paths.h"
 #include "shell/firstpaint.h"
 #include "shell/forms.h"
 #include "shell/program.h"
@@ -14,11 +15,14 @@ using namespace contarello;
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     PrepareToolkit(application);
+    const ProgramFiles files = FindProgramFiles(QCoreApplication::applicationDirPath());
+    // The install check: where the sounds and their module were found, and nothing else.
+    if (qEnvironmentVariableIsSet("CONTARELLO_CHECK_FILES")) return ReportProgramFiles(files);
     QtRandom rnd;
-    LazySound sound(QCoreApplication::applicationDirPath());
+    LazySound sound(files.modules);
     QtDialogs dialogs;
     QtPrinter printer;
-    Program app(rnd, sound, dialogs, printer, QCoreApplication::applicationDirPath(), FormTable());
+    Program app(rnd, sound, dialogs, printer, files.data, FormTable());
     app.nav.setFollowWindowSystem(true);
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
     Main(app);

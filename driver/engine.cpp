@@ -111,10 +111,10 @@ Qt::MouseButton qtButton(int vb) {
     }
 }
 
-const char* const kSetupCommands[] = {"seed", "rnd", "msgbox", "inputbox"};
-const char* const kCommands[] = {"seed",     "rnd",     "msgbox", "inputbox",  "show",
-                                 "activate", "click",   "menu",   "mousedown", "type",
-                                 "key",      "settext", "drag",   "dump",      "screenshot"};
+const char* const kSetupCommands[] = {"seed", "rnd", "msgbox", "inputbox", "savefile"};
+const char* const kCommands[] = {"seed",     "rnd",   "msgbox", "inputbox",  "savefile", "show",
+                                 "activate", "click", "menu",   "mousedown", "type",     "key",
+                                 "settext",  "drag",  "dump",   "screenshot"};
 
 } // namespace
 
@@ -199,6 +199,12 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         if (!arg.isArray()) return fail(QStringLiteral("inputbox takes an array of texts"));
         for (const QJsonValue& v : arg.toArray())
             dialogs_.queueText(v.toString());
+        return ok();
+    }
+    if (verb == u"savefile") {
+        if (!arg.isArray()) return fail(QStringLiteral("savefile takes an array of paths"));
+        for (const QJsonValue& v : arg.toArray())
+            dialogs_.queuePath(v.toString());
         return ok();
     }
     if (verb == u"show") {

@@ -9,6 +9,9 @@ PACKAGES=(
     qt6-translations-l10n             # "Sì", "No", "Annulla" in Qt's own boxes
     fonts-liberation2                 # the screens are laid out for Arial's metrics
     libbenchmark-dev                  # the benchmark
+    poppler-utils                     # the tests read the saved PDF back
+    desktop-file-utils appstream      # the tests validate the menu entry and the metadata
+    dpkg-dev file                     # cpack's .deb and its dependencies
 )
 
 missing=()

@@ -1,6 +1,9 @@
 #include "shell/qtservices.h"
+#include "shell/printout.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLibrary>
@@ -9,6 +12,7 @@
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <chrono>
@@ -103,37 +107,45 @@ QString QtDialogs::InputBox(const QString& prompt, const QString& title, const Q
     return ok ? text : QString();
 }
 
+QString QtDialogs::SaveFile(const QString& title, const QString& defaultName, const QString& filter) {
+    if (folder_.isEmpty()) {
+        folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
+    }
+    // Qt's own dialog rather than the desktop's: it speaks Italian through the translations loaded
+    // at start, whatever the desktop is.
+    QFileDialog dialog(QApplication::activeWindow(), title, QDir(folder_).filePath(defaultName), filter);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.setFont(kBoxFont());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    const QString path = dialog.selectedFiles().constFirst();
+    folder_ = QFileInfo(path).absolutePath(); // the next sheet goes to the same folder
+    return path;
+}
+
 void QtPrinter::endDoc() {
     const QString text = takeText();
+    const QString name = takeDocName();
     if (QPrinterInfo::defaultPrinter().isNull()) return;
     QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    // A queue shows the name, and a PDF printer makes its file name of it: two documents no longer
+    // end up in one file, the second over the first.
+    printer.setDocName(name);
     QPainter p;
     if (!p.begin(&printer)) return;
-    QFont f(font_);
-    f.setPointSizeF(size_);
-    p.setFont(f);
-    const int lineHeight = p.fontMetrics().lineSpacing();
-    const int pageHeight = printer.pageLayout().paintRectPixels(printer.resolution()).height();
-    int y = p.fontMetrics().ascent();
-    QStringList lines = text.split(QStringLiteral("\r\n"));
-    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
-    for (const QString& line : lines) {
-        if (y + p.fontMetrics().descent() > pageHeight) {
-            if (!printer.newPage()) break;
-            y = p.fontMetrics().ascent();
-        }
-        QString shown = line;
-        shown.remove(u'\n').remove(u'\r');
-        p.drawText(0, y, shown);
-        y += lineHeight;
-    }
+    PaintText(p, printer, {font_, size_, text});
     p.end();
 }
 
 void QtPrinter::printForm(QWidget& form, const QString&) {
+    const QString name = takeDocName();
     if (QPrinterInfo::defaultPrinter().isNull()) return;
     const QPixmap image = form.grab();
     QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    printer.setDocName(name);
     QPainter p;
     if (!p.begin(&printer)) return;
     const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());

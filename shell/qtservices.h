@@ -45,6 +45,10 @@ class QtDialogs : public Dialogs {
 public:
     int MsgBox(const QString& text, int style, const QString& title) override;
     QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
+    QString SaveFile(const QString& title, const QString& defaultName, const QString& filter) override;
+
+private:
+    QString folder_; // where the last file went, for the next one in this run
 };
 
 class QtPrinter : public BufferedPrinter {

@@ -49,12 +49,30 @@ QString ScriptedDialogs::InputBox(const QString& prompt, const QString& title, c
     return result;
 }
 
+QString ScriptedDialogs::SaveFile(const QString& title, const QString& defaultName, const QString& filter) {
+    QString result;
+    if (!paths_.empty()) {
+        result = paths_.front();
+        paths_.pop_front();
+    }
+    log_.add({{"event", "savefile"},
+              {"title", title},
+              {"default", defaultName},
+              {"filter", filter},
+              {"result", result}});
+    return result;
+}
+
 void RecordingPrinter::endDoc() {
-    log_.add({{"event", "print"}, {"font", font_}, {"size", size_}, {"text", takeText()}});
+    log_.add({{"event", "print"},
+              {"font", font_},
+              {"size", size_},
+              {"text", takeText()},
+              {"name", takeDocName()}});
 }
 
 void RecordingPrinter::printForm(QWidget&, const QString& formName) {
-    log_.add({{"event", "printform"}, {"form", formName}});
+    log_.add({{"event", "printform"}, {"form", formName}, {"name", takeDocName()}});
 }
 
 } // namespace contarello

@@ -51,6 +51,13 @@ public:
     virtual int MsgBox(const QString& text, int style, const QString& title) = 0;
     // The text typed, or an empty text on Cancel.
     virtual QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) = 0;
+    // Asks where to save a file, proposing defaultName; the path chosen, or an empty text on Cancel.
+    virtual QString SaveFile(const QString& title, const QString& defaultName, const QString& filter) {
+        Q_UNUSED(title);
+        Q_UNUSED(defaultName);
+        Q_UNUSED(filter);
+        return {};
+    }
 };
 
 class Printer {
@@ -62,6 +69,8 @@ public:
     virtual void print(const QString& text) = 0;
     virtual void endDoc() = 0;
     virtual void printForm(QWidget& form, const QString& formName) = 0;
+    // The name of the next document (endDoc or printForm), as the print queue shows it.
+    virtual void setDocName(const QString& name) { Q_UNUSED(name); }
 };
 
 // A printer that gathers the document until endDoc, which takes it.
@@ -70,14 +79,21 @@ public:
     void setFontName(const QString& name) override { font_ = name; }
     void setFontSize(double points) override { size_ = points; }
     void print(const QString& text) override { text_ += text; }
+    void setDocName(const QString& name) override { docName_ = name; }
 
 protected:
     QString takeText() { return std::exchange(text_, QString()); }
+    // A document nobody named still says whose it is in the queue.
+    QString takeDocName() {
+        const QString name = std::exchange(docName_, QString());
+        return name.isEmpty() ? QStringLiteral("Contarello") : name;
+    }
     QString font_ = QStringLiteral("Arial");
     double size_ = 12;
 
 private:
     QString text_;
+    QString docName_;
 };
 
 // ---- Scripted services, for the driver and the tests ----
@@ -112,13 +128,17 @@ public:
     explicit ScriptedDialogs(EventLog& log) : log_(log) {}
     int MsgBox(const QString& text, int style, const QString& title) override;
     QString InputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
+    // With no path queued the answer is Cancel: a script writes no file it didn't ask for.
+    QString SaveFile(const QString& title, const QString& defaultName, const QString& filter) override;
     void queueAnswer(int a) { answers_.push_back(a); }
     void queueText(const QString& t) { texts_.push_back(t); }
+    void queuePath(const QString& p) { paths_.push_back(p); }
 
 private:
     EventLog& log_;
     std::deque<int> answers_;
     std::deque<QString> texts_;
+    std::deque<QString> paths_;
 };
 
 class RecordingPrinter : public BufferedPrinter {

@@ -1,5 +1,6 @@
 #include "worksheets/stampa.h"
 #include "shell/pictures.h"
+#include "shell/printout.h"
 #include "shell/program.h"
 #include "worksheets/generators/generators.h"
 
@@ -16,7 +17,7 @@ constexpr std::array<double, 3> kGrandezzeDidascalia = {9.75, 12, 18};
 const std::array<QString, 3> kCaratteri = {QStringLiteral("piccolo"), QStringLiteral("medio"),
                                            QStringLiteral("grande")};
 
-MultiLineTextBox* Foglio(QWidget* parent) {
+MultiLineTextBox* Pagina(QWidget* parent) {
     auto* box = new MultiLineTextBox(parent);
     box->setFont(Arial(12, false));
     box->MaxLength = 64000;
@@ -29,8 +30,8 @@ formStampa::formStampa(Program& program) : Form(program, 9480, 6795) {
     setBackColor(QColor(0xff, 0xff, 0x00));
 
     // Made first, so the sheet is first in the tab order: the adult may correct it by hand.
-    txtCD = adopt(Foglio(client()), QStringLiteral("txtCD"), 75, 165, 6090, 6630);
-    TextCor = adopt(Foglio(client()), QStringLiteral("TextCor"), 120, 3240, 6090, 6630);
+    txtCD = adopt(Pagina(client()), QStringLiteral("txtCD"), 75, 165, 6090, 6630);
+    TextCor = adopt(Pagina(client()), QStringLiteral("TextCor"), 120, 3240, 6090, 6630);
     TextCor->setVisible(false);
     // The sorting aid of the ordering worksheet; never seen.
     List1 = adopt(new ListBox(client(), true), QStringLiteral("List1"), 7140, 1050, 1575, 2430);
@@ -78,12 +79,17 @@ formStampa::formStampa(Program& program) : Form(program, 9480, 6795) {
     const QFont bottoni = SansSerif(8.25);
     btnCD = button(QStringLiteral("btnCD"), QStringLiteral("Stampa scheda"), 6480, 4440, 1335, 855, bottoni);
     btnCD->setPicture(pictures::Stampante());
-    btnCD->Click = [this] { Stampa(txtCD->Text(), 100); };
+    btnCD->Click = [this] { Stampa(Foglio(), NomeDocumento(QStringLiteral("scheda"))); };
     Command1 = button(QStringLiteral("Command1"), QStringLiteral("Stampa correzione"), 7920, 4440, 1335, 855,
                       bottoni);
     Command1->setPicture(pictures::Stampante());
     // The correction knows nothing of what was corrected by hand on the sheet.
-    Command1->Click = [this] { Stampa(TextCor->Text(), 90); };
+    Command1->Click = [this] { Stampa(Correzione(), NomeDocumento(QStringLiteral("correzione"))); };
+    // In the room left between the size frame and the print buttons.
+    btnPDF = button(QStringLiteral("btnPDF"), QStringLiteral("Salva PDF"), 6480, 4020, 2775, 375, bottoni);
+    btnPDF->Click = [this] {
+        SalvaPdf(app, NomeDocumento(QStringLiteral("scheda")), {Foglio(), Correzione()});
+    };
     Command2 =
         button(QStringLiteral("Command2"), QStringLiteral("Nuova scheda"), 6510, 5565, 1335, 855, bottoni);
     Command2->setPicture(pictures::FoglioNuovo());
@@ -121,11 +127,23 @@ void formStampa::NuovaScheda() {
     TextCor->setText(scheda.TextCor);
 }
 
-void formStampa::Stampa(const QString& testo, int larghezza) {
-    const QString righe = AndaACapo(testo, larghezza);
-    app.printer.setFontName(QStringLiteral("MS Sans Serif"));
-    app.printer.setFontSize(GrandezzaCarattere);
-    app.printer.print(righe);
+TestoStampato formStampa::Foglio() const {
+    return {QStringLiteral("MS Sans Serif"), double(GrandezzaCarattere), AndaACapo(txtCD->Text(), 100)};
+}
+
+TestoStampato formStampa::Correzione() const {
+    return {QStringLiteral("MS Sans Serif"), double(GrandezzaCarattere), AndaACapo(TextCor->Text(), 90)};
+}
+
+QString formStampa::NomeDocumento(const QString& cosa) const {
+    return QStringLiteral("Contarello - %1 %2").arg(cosa).arg(g.NumeroScheda);
+}
+
+void formStampa::Stampa(const TestoStampato& documento, const QString& nome) {
+    app.printer.setDocName(nome);
+    app.printer.setFontName(documento.fontName);
+    app.printer.setFontSize(documento.fontSize);
+    app.printer.print(documento.text);
     app.printer.endDoc();
 }
 

@@ -4,6 +4,7 @@
 // exercise, which waits loaded behind it.
 
 #include "shell/forms.h"
+#include "shell/printout.h"
 
 #include <memory>
 
@@ -21,8 +22,13 @@ public:
     void NuovaScheda();
 
 private:
-    // A copy of the text, its long lines broken at the given width, in one document.
-    void Stampa(const QString& testo, int larghezza);
+    // A copy of each text, its long lines broken for the printer: the sheet at 100 characters,
+    // the correction at 90, in the size chosen.
+    TestoStampato Foglio() const;
+    TestoStampato Correzione() const;
+    // "Contarello - scheda 9": what the print queue and the PDF call the document.
+    QString NomeDocumento(const QString& cosa) const;
+    void Stampa(const TestoStampato& documento, const QString& nome);
 
     MultiLineTextBox* txtCD;
     MultiLineTextBox* TextCor;
@@ -37,6 +43,7 @@ private:
     CommandButton* Command1;
     CommandButton* Command2;
     CommandButton* BottoneEsci;
+    CommandButton* btnPDF;
 
     int16_t NumeroRighe = 5;
     int16_t NumeroColonne = 2;

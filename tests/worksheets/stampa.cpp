@@ -53,9 +53,12 @@ QList<double> openSheet(Harness& h) {
     return d;
 }
 
-// What a print button sends since the last look: one document in MS Sans Serif.
-QJsonArray printed(int size, const QString& text) {
-    return {QJsonObject{{"event", "print"}, {"font", "MS Sans Serif"}, {"size", size}, {"text", text}}};
+// What a print button sends since the last look: one document in MS Sans Serif, named for the
+// print queue after what it is.
+QJsonArray printed(int size, const QString& text,
+                   const QString& name = QStringLiteral("Contarello - scheda 9")) {
+    return {QJsonObject{
+        {"event", "print"}, {"font", "MS Sans Serif"}, {"size", size}, {"text", text}, {"name", name}}};
 }
 
 const QJsonObject kAttivazione{{"NumeroRighe", 5}, {"NumeroColonne", 2}, {"GrandezzaCarattere", 12}};
@@ -143,7 +146,7 @@ private slots:
         click(h, "btnCD");
         QCOMPARE(h.events("print"), printed(size, AndaACapo(edited, 100)));
         click(h, "Command1");
-        QCOMPARE(h.events("print"), printed(size, AndaACapo(correzione, 90)));
+        QCOMPARE(h.events("print"), printed(size, AndaACapo(correzione, 90), "Contarello - correzione 9"));
         QCOMPARE(h.text("txtCD"), edited); // printing changes nothing
     }
 
@@ -156,7 +159,7 @@ private slots:
         QCOMPARE(h.text("txtCD"), QString());
         QCOMPARE(h.text("TextCor"), QString());
         click(h, "btnCD");
-        QCOMPARE(h.events("print"), printed(12, QStringLiteral("\r\n")));
+        QCOMPARE(h.events("print"), printed(12, QStringLiteral("\r\n"), "Contarello - scheda 25"));
     }
 
     void esciGoesBackToTheExercise_data() {

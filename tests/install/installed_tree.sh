@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# The installed program: `cmake --install` into a scratch prefix puts every file in its place, the
+# menu entry and the software-centre metadata validate, and the program started from there finds
+# its sounds and its sound module, also after the whole tree has been moved elsewhere.
+set -euo pipefail
+build=$(cd "$1" && pwd)
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+fail() { echo "FAIL: $*" >&2; exit 1; }
+
+cmake --install "$build" --prefix "$scratch/first" >/dev/null
+# Moved whole: the program must look relative to itself, not where it was installed first.
+mv "$scratch/first" "$scratch/usr"
+root=$scratch/usr
+id=org.example.contarello
+
+expected=(
+    bin/contarello
+    share/applications/$id.desktop
+    share/metainfo/$id.metainfo.xml
+    share/icons/hicolor/scalable/apps/$id.svg
+)
+for s in si1 si2 si3 si4 si no; do expected+=("share/contarello/suoni/$s.wav"); done
+for f in "${expected[@]}"; do [ -f "$root/$f" ] || fail "$f is not installed"; done
+module=$(find "$root/lib" -name libcontarello_sound.so)
+[ -n "$module" ] || fail "the sound module is not installed"
+[ -x "$root/bin/contarello" ] || fail "the program is not executable"
+# Nothing of the build tree comes along: no sounds or module next to the program.
+[ ! -e "$root/bin/suoni" ] && [ ! -e "$root/bin/libcontarello_sound.so" ] || fail "files left in bin/"
+
+desktop-file-validate "$root/share/applications/$id.desktop" || fail "the .desktop entry does not validate"
+appstreamcli validate --no-net --pedantic "$root/share/metainfo/$id.metainfo.xml" >/dev/null ||
+    fail "the AppStream metadata does not validate"
+grep -q "^Icon=$id\$" "$root/share/applications/$id.desktop" || fail "the entry names another icon"
+grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$root/share/metainfo/$id.metainfo.xml" ||
+    fail "the metadata names another entry"
+
+report=$(CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen "$root/bin/contarello") ||
+    fail "the installed program misses files:"$'\n'"$report"
+[ "$(grep -c "^ok      $root/share/contarello/suoni/" <<<"$report")" -eq 6 ] ||
+    fail "the sounds were not found in the installed tree:"$'\n'"$report"
+grep -q "^ok      $module\$" <<<"$report" || fail "the sound module was not loaded from the tree:"$'\n'"$report"
+
+# The build tree keeps working: there the files lie next to the program.
+report=$(CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen "$build/contarello") ||
+    fail "the program in the build tree misses files:"$'\n'"$report"
+[ "$(grep -c "^ok      $build/suoni/" <<<"$report")" -eq 6 ] || fail "build tree sounds:"$'\n'"$report"
+echo "installed tree: ${#expected[@]} files and the module in place, sounds found"

@@ -1,0 +1,179 @@
+// "Salva PDF" on the worksheet screen: the file holds the sheet and then its correction as text,
+// broken into the very lines the printer gets; Cancel writes nothing; a file that can't be written
+// is told in a box and costs nothing. The pages are read back with poppler's tools.
+
+#include "shell/printout.h"
+#include "support/harness.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace contarello;
+using namespace contarello::test;
+
+namespace {
+
+void act(Harness& h, const QJsonObject& command) {
+    h.run(QString::fromUtf8(QJsonDocument(command).toJson(QJsonDocument::Compact)));
+}
+
+QString tool(const QString& program, const QStringList& args) {
+    QProcess p;
+    p.start(program, args);
+    if (!p.waitForFinished(30000) || p.exitCode() != 0)
+        qWarning("%s failed: %s", qPrintable(program), p.readAllStandardError().constData());
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+// The lines of a text as they read on paper: a proportional font keeps no run of blanks, so runs
+// collapse to one; empty lines leave no trace in the PDF's text.
+QStringList words(const QString& text) {
+    QStringList lines;
+    for (const QString& line : text.split(QRegularExpression(QStringLiteral("[\r\n]+")))) {
+        const QString s = line.simplified();
+        if (!s.isEmpty()) lines << s;
+    }
+    return lines;
+}
+
+QString page(const QString& pdf, int n) {
+    const QString p = QString::number(n);
+    return tool(QStringLiteral("pdftotext"), {"-raw", "-nopgbrk", "-f", p, "-l", p, pdf, "-"});
+}
+
+QString info(const QString& pdf, const QString& field) {
+    const QRegularExpression re(u'^' + field + QStringLiteral(":\\s*(.*)$"),
+                                QRegularExpression::MultilineOption);
+    return re.match(tool(QStringLiteral("pdfinfo"), {pdf})).captured(1).trimmed();
+}
+
+// The sheet of "più 1" on screen, in six columns so that its rows are broken for print.
+void openWideSheet(Harness& h, int size) {
+    h.rnd({11.5 / 99, 0.0});
+    h.run(R"({"show": "Form1"})");
+    h.run(R"({"menu": "mnuStampa"})");
+    act(h, {{"click", "OptionColonne(5)"}});
+    act(h, {{"click", QStringLiteral("OptionCarattere(%1)").arg(size)}});
+    h.events();
+}
+
+} // namespace
+
+class PdfTest : public QObject {
+    Q_OBJECT
+private slots:
+    // Page 1 the sheet, page 2 the correction, line for line as the two print buttons send them,
+    // in real text. In a large font a line wider than the paper runs off its edge, as on the
+    // printer: it is cut, never broken again.
+    void theSheetThenItsCorrection_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("fits");
+        QTest::newRow("piccolo") << 0 << true;
+        QTest::newRow("grande") << 2 << false;
+    }
+    void theSheetThenItsCorrection() {
+        QFETCH(int, size);
+        QFETCH(bool, fits);
+        QTemporaryDir dir;
+        const QString pdf = dir.filePath(QStringLiteral("scheda.pdf"));
+        Harness h;
+        openWideSheet(h, size);
+        h.run(R"({"click": "btnCD"})");
+        h.run(R"({"click": "Command1"})");
+        const QJsonArray printed = h.events("print");
+        QCOMPARE(printed.size(), 2);
+        act(h, {{"savefile", QJsonArray{pdf}}});
+        h.run(R"({"click": "btnPDF"})");
+
+        const QJsonArray asked = h.events();
+        QCOMPARE(asked.size(), 1); // the dialog, and no message box
+        const QJsonObject dialog = asked[0].toObject();
+        QCOMPARE(dialog.value("event").toString(), QStringLiteral("savefile"));
+        QCOMPARE(dialog.value("title").toString(), QStringLiteral("Salva PDF"));
+        QCOMPARE(dialog.value("default").toString(), QStringLiteral("Contarello - scheda 9 - ") +
+                                                         QDate::currentDate().toString(Qt::ISODate) +
+                                                         QStringLiteral(".pdf"));
+
+        QCOMPARE(info(pdf, "Pages"), QStringLiteral("2"));
+        QCOMPARE(info(pdf, "Title"), QStringLiteral("Contarello - scheda 9"));
+        for (int p = 0; p < 2; ++p) {
+            const QStringList expected = words(printed[p].toObject().value("text").toString());
+            const QStringList actual = words(page(pdf, p + 1));
+            QVERIFY(expected.size() > 10); // five rows of two printed lines each, and the heading
+            if (fits) {
+                QCOMPARE(actual, expected);
+            } else {
+                QCOMPARE(actual.size(), expected.size());
+                for (int i = 0; i < actual.size(); ++i)
+                    QVERIFY2(expected[i].startsWith(actual[i]), qPrintable(actual[i] + " / " + expected[i]));
+            }
+        }
+        // Text in an embedded font, and no picture anywhere.
+        QVERIFY(tool(QStringLiteral("pdffonts"), {pdf}).split(u'\n', Qt::SkipEmptyParts).size() > 2);
+        QCOMPARE(tool(QStringLiteral("pdfimages"), {"-list", pdf}).split(u'\n', Qt::SkipEmptyParts).size(),
+                 2);
+    }
+
+    // Cancel writes nothing; a path that can't take the file gets a box naming it, and the sheet,
+    // the correction and whatever stood at that path are as before.
+    void cancelAndFailures_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("why");
+        QTest::newRow("Cancel") << QString() << QString();
+        QTest::newRow("no such folder")
+            << QStringLiteral("manca/scheda.pdf") << QStringLiteral("La cartella non esiste");
+        QTest::newRow("a folder by that name")
+            << QStringLiteral("cartella") << QStringLiteral("c'è già una cartella");
+    }
+    void cancelAndFailures() {
+        QFETCH(QString, path);
+        QFETCH(QString, why);
+        QTemporaryDir dir;
+        QDir(dir.path()).mkdir(QStringLiteral("cartella"));
+        const QString full = path.isEmpty() ? QString() : dir.filePath(path);
+        Harness h;
+        openWideSheet(h, 1);
+        const QString foglio = h.text("txtCD"), correzione = h.text("TextCor");
+        act(h, {{"savefile", QJsonArray{full}}});
+        h.run(R"({"click": "btnPDF"})");
+        const QJsonArray boxes = h.events("msgbox");
+        if (why.isEmpty()) {
+            QCOMPARE(boxes.size(), 0);
+        } else {
+            QCOMPARE(boxes.size(), 1);
+            const QJsonObject box = boxes[0].toObject();
+            QCOMPARE(box.value("style").toInt(), 16);
+            QCOMPARE(box.value("title").toString(), QStringLiteral("Contarello"));
+            QVERIFY2(box.value("text").toString().contains(full), qPrintable(box.value("text").toString()));
+            QVERIFY2(box.value("text").toString().contains(why), qPrintable(box.value("text").toString()));
+        }
+        QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList{"cartella"});
+        QVERIFY(QFileInfo(dir.filePath("cartella")).isDir());
+        QCOMPARE(h.text("txtCD"), foglio);
+        QCOMPARE(h.text("TextCor"), correzione);
+        QCOMPARE(h.form(), QStringLiteral("formStampa"));
+    }
+
+    // The drawn worksheets save the picture of their screen, its texts still text.
+    void aScreenKeepsItsTextsAsText() {
+        QTemporaryDir dir;
+        const QString pdf = dir.filePath(QStringLiteral("disegno.pdf"));
+        QLabel sheet(QStringLiteral("Scrivi il valore delle caselle indicate con X"));
+        sheet.resize(640, 480);
+        QVERIFY(ScriviPdf(pdf, QStringLiteral("Contarello - scheda formStampa3"), sheet).ok);
+        QCOMPARE(info(pdf, "Pages"), QStringLiteral("1"));
+        QCOMPARE(words(page(pdf, 1)), QStringList{"Scrivi il valore delle caselle indicate con X"});
+    }
+};
+
+QTEST_MAIN(PdfTest)
+#include "pdf.moc"
