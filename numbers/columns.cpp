@@ -11,14 +11,6 @@ const QColor kBlu(0x00, 0x00, 0xff);
 const QColor kMagenta(0xff, 0x00, 0xff);
 const QColor kCiano(0x00, 0xff, 0xff);
 
-// The same colour in every state, so that a disabled box still shows its digits clearly.
-void Colora(QWidget* w, QPalette::ColorRole role, QColor c) {
-    QPalette p = w->palette();
-    for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        p.setColor(group, role, c);
-    w->setPalette(p);
-}
-
 } // namespace
 
 namespace {
@@ -67,17 +59,18 @@ ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante va
     // The column: its heads, its four cells, the rule and the two boxes of the result.
     Label4 = label(QStringLiteral("Label4"), QStringLiteral("da"), 4320, 1440, 495, 345, Arial(12));
     Label5 = label(QStringLiteral("Label5"), QStringLiteral("u"), 5640, 1440, 495, 345, Arial(12));
+    // Red and blue read on white, not on every background: the heads stand on white like their cells.
     for (auto [head, colour] : {std::pair{Label4, kRosso}, std::pair{Label5, kBlu}}) {
         head->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-        Colora(head, QPalette::WindowText, colour);
+        head->setBackColor(Qt::white);
+        head->setForeColor(colour);
     }
     auto casella = [this](const char* name, int left, int top, QColor colour) {
         Label* l = label(QString::fromUtf8(name), QString(), left, top, 735, 615, Arial(24));
         l->setAlignment(Qt::AlignCenter);
         l->setFrameShape(QFrame::Box);
-        Colora(l, QPalette::WindowText, colour);
-        Colora(l, QPalette::Window, Qt::white);
-        l->setAutoFillBackground(true);
+        l->setBackColor(Qt::white);
+        l->setForeColor(colour);
         l->Control::acceptDrops();
         return l;
     };
@@ -96,7 +89,7 @@ ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante va
         TextBox* t = textBox(QString::fromUtf8(name), left, 3840, 735, 615, Arial(24));
         t->setAlignment(Qt::AlignCenter);
         t->setTextMargins(0, 0, 0, 0);
-        Colora(t, QPalette::Text, colour);
+        t->setForeColor(colour);
         t->setEnabled(false);
         return t;
     };

@@ -83,14 +83,14 @@ constexpr ColumnMember kCol1{"FormCol1",
                              3120,
                              "Informazioni          ",
                              "Incolonna il primo addendo trascinando le cifre con il mouse.",
-                             "Incolonna il secondo addendo trascinando le cifre cin il mouse."};
+                             "Incolonna il secondo addendo trascinando le cifre con il mouse."};
 constexpr ColumnMember kCol2{"FormCol2",
                              15,
                              TentaCol2,
                              true,
                              3570,
                              "Informazioni           ",
-                             "Incolonna il primo addendo trascinando le cifre con il muose.",
+                             "Incolonna il primo addendo trascinando le cifre con il mouse.",
                              "Incolonna il secondo addendo trascinando le cifre con il mouse."};
 constexpr ColumnMember kCol3{"FormCol3",
                              18,

@@ -62,12 +62,7 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
                            nullptr, mnuStampa);
     MenuSu = menu(QStringLiteral("MenuSu"), QStringLiteral("Dal minore al maggiore"), MenuOrdinamento);
     MenuGiu = menu(QStringLiteral("MenuGiu"), QStringLiteral("Dal maggiore al minore"), MenuOrdinamento);
-    MenuQuantiNumeri->Click = [this] {
-        EtNumeri->setLeft(0);
-        EtNumeri->setTop(0);
-        EtNumeri->raise();
-        EtNumeri->setVisible(true);
-    };
+    MenuQuantiNumeri->Click = [this] { EtNumeri->MostraSopra(); };
     MenuSu->Click = [this] { ScegliOrdinamento(true); };
     MenuGiu->Click = [this] { ScegliOrdinamento(false); };
 
@@ -82,10 +77,7 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
         // A placed number sits on white, readable on every background the screen can draw.
         l->setAlignment(Qt::AlignCenter);
         l->setFrameShape(QFrame::Box);
-        QPalette p = l->palette();
-        p.setColor(QPalette::Window, Qt::white);
-        l->setPalette(p);
-        l->setAutoFillBackground(true);
+        l->setBackColor(Qt::white);
         l->setVisible(false);
         EtNumero.set(i, l);
     }
@@ -99,15 +91,16 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
     Label3 = label(QStringLiteral("Label3"), QString(), 6720, 5040, 495, 375, Arial(8, false));
     Label3->setVisible(false);
 
+    // The panel covers the screen's area under the menu bar, its six choices in a column of large
+    // tiles down the middle, as the limit panel of the other screens has them.
+    const int largo = client()->width() * kTwipsPerPixel, alto = client()->height() * kTwipsPerPixel;
     EtNumeri = frame(QStringLiteral("EtNumeri"), QStringLiteral("Scegli quanti numeri vuoi ordinare"), 0, 0,
-                     kLarghezza, 9360, Arial(14.25));
-    QPalette p = EtNumeri->palette();
-    p.setColor(QPalette::Window, QColor(0xc0, 0xff, 0xff));
-    EtNumeri->setPalette(p);
-    EtNumeri->setAutoFillBackground(true);
+                     largo, alto, Arial(14.25));
+    EtNumeri->setBackColor(QColor(0xc0, 0xff, 0xff));
     for (int i = 0; i < 6; ++i) {
-        auto* o = option(indexed(QStringLiteral("Option3D1"), i), QString::number(i + 3), 960, 840 + 840 * i,
-                         1575, 735, Arial(20.25), EtNumeri);
+        auto* o = option(indexed(QStringLiteral("Option3D1"), i), QString::number(i + 3), (largo - 2400) / 2,
+                         720 + 900 * i, 2400, 780, Arial(20.25), EtNumeri);
+        o->setAutoFillBackground(false);
         o->Click = [this, i] { Option3D1_Click(i); };
         Option3D1.set(i, o);
     }

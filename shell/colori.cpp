@@ -42,8 +42,19 @@ QColor ColoreSlot(Variante v, int slot) {
     }
 }
 
+namespace {
+const char* const kVariante = "variante";
+}
+
 void CaricaColori(Form& form, Variante v) {
+    form.setProperty(kVariante, static_cast<int>(v));
     form.setBackColor(ColoreSlot(v, Draw(form.app.rnd, 18, 1)));
+}
+
+std::optional<Variante> VarianteDi(const Form& form) {
+    const QVariant v = form.property(kVariante);
+    if (!v.isValid()) return std::nullopt;
+    return static_cast<Variante>(v.toInt());
 }
 
 } // namespace contarello

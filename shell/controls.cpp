@@ -115,6 +115,25 @@ public:
     }
 };
 
+// Halfway between two colours: how a disabled caption fades into what it stands on.
+QColor mescola(QColor a, QColor b) {
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+// A picture in light greys, its shape kept: a button that can't be pressed looks switched off,
+// whatever colour the screen has behind it.
+QPixmap ingrigito(const QPixmap& pm) {
+    QImage im = pm.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < im.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(im.scanLine(y));
+        for (int x = 0; x < im.width(); ++x) {
+            const int g = 150 + qGray(row[x]) * 85 / 255;
+            row[x] = qRgba(g, g, g, qAlpha(row[x]));
+        }
+    }
+    return QPixmap::fromImage(im);
+}
+
 } // namespace
 
 // ---- Control ----
@@ -146,7 +165,44 @@ void Control::setBackColor(QColor c) {
         w->setPalette(p);
         w->setAutoFillBackground(true);
         w->update();
+        // Its own caption and those standing on it (the options of a panel) follow the new fill.
+        if (Form* f = formOf(w->parentWidget()))
+            f->adattaInchiostri();
+        else
+            adattaInchiostro();
     }
+}
+
+void Control::setForeColor(QColor c) {
+    foreColor_ = c;
+    adattaInchiostro();
+}
+
+QColor Control::captionGround() const {
+    for (const QWidget* w = const_cast<Control*>(this)->widget(); w; w = w->parentWidget()) {
+        if (auto* f = qobject_cast<const Form*>(w))
+            return f->BackColor().isValid() ? f->BackColor() : f->palette().color(QPalette::Window);
+        if (w->autoFillBackground()) return w->palette().color(w->backgroundRole());
+    }
+    return Qt::white;
+}
+
+void Control::adattaInchiostro() {
+    QWidget* w = widget();
+    const QPalette::ColorRole role = captionRole();
+    if (!w || role == QPalette::NoRole) return;
+    const QColor fondo = captionGround();
+    const QColor ink = foreColor_.isValid() ? foreColor_ : InchiostroSu(fondo);
+    // A colour the program chose stays in every state, so a disabled box still shows its digits.
+    const QColor spento = foreColor_.isValid() ? foreColor_ : mescola(ink, fondo);
+    QPalette p = w->palette();
+    if (p.isBrushSet(QPalette::Active, role) && p.color(QPalette::Active, role) == ink &&
+        p.color(QPalette::Inactive, role) == ink && p.color(QPalette::Disabled, role) == spento)
+        return;
+    p.setColor(QPalette::Active, role, ink);
+    p.setColor(QPalette::Inactive, role, ink);
+    p.setColor(QPalette::Disabled, role, spento);
+    w->setPalette(p);
 }
 
 void Control::describeCommon(QJsonObject& out) const {
@@ -168,6 +224,11 @@ void Label::setCaption(const QString& c) {
     caption_ = c;
     setText(c);
     if (autoSize_) adjustSize();
+}
+
+void Label::paintEvent(QPaintEvent* e) {
+    adattaInchiostro();
+    QLabel::paintEvent(e);
 }
 
 void Label::describe(QJsonObject& out) const {
@@ -239,9 +300,14 @@ void CommandButton::setCaption(const QString& c) {
     update();
 }
 
-void CommandButton::setPicture(const QPixmap& p) {
+void CommandButton::setPicture(const QPixmap& p, const QPixmap& disabled) {
     picture_ = p;
+    disabledPicture_ = disabled.isNull() && !p.isNull() ? ingrigito(p) : disabled;
     update();
+}
+
+QColor CommandButton::captionGround() const {
+    return hasBackColor() ? backColor_ : palette().color(QPalette::Button);
 }
 
 void CommandButton::describe(QJsonObject& out) const {
@@ -265,6 +331,7 @@ void CommandButton::mouseReleaseEvent(QMouseEvent* e) {
 }
 
 void CommandButton::paintEvent(QPaintEvent*) {
+    adattaInchiostro();
     QPainter p(this);
     QStyleOptionButton opt;
     opt.initFrom(this);
@@ -291,11 +358,7 @@ void CommandButton::paintEvent(QPaintEvent*) {
         const QSize ps = picture_.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture_.size());
         const int top = area.top() + (area.height() - ps.height() - textHeight) / 2;
         const QRect pic(area.left() + (area.width() - ps.width()) / 2, top, ps.width(), ps.height());
-        if (isEnabled())
-            p.drawPixmap(pic, picture_);
-        else
-            style()->drawItemPixmap(&p, pic, Qt::AlignCenter,
-                                    style()->generatedIconPixmap(QIcon::Disabled, picture_, &opt));
+        p.drawPixmap(pic, isEnabled() ? picture_ : disabledPicture_);
         area.setTop(pic.bottom() + 1);
     }
     if (!caption_.isEmpty()) p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, caption_);
@@ -312,6 +375,11 @@ void TextBox::describe(QJsonObject& out) const {
     describeCommon(out);
     out[QStringLiteral("text")] = text();
     if (fontSizeSet_) out[QStringLiteral("fontsize")] = font().pointSizeF();
+}
+
+void TextBox::paintEvent(QPaintEvent* e) {
+    adattaInchiostro();
+    QLineEdit::paintEvent(e);
 }
 
 void TextBox::SetFocus() {
@@ -444,6 +512,50 @@ void OptionButton::setBackColor(QColor c) {
     Control::setBackColor(c);
 }
 
+namespace {
+const QColor kTessera(0xff, 0xff, 0xff);       // the tile of an option
+const QColor kTesseraScelta(0x1f, 0x5f, 0xd0); // ... and of the one chosen
+const QColor kTesseraSpenta(0xe4, 0xe4, 0xe4); // ... and of one that can't be chosen
+} // namespace
+
+QColor OptionButton::captionGround() const {
+    if (!isEnabled()) return kTesseraSpenta;
+    return isChecked() ? kTesseraScelta : kTessera;
+}
+
+void OptionButton::paintEvent(QPaintEvent*) {
+    adattaInchiostro();
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = palette().color(QPalette::WindowText);
+    const QRectF tile = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    p.setPen(
+        QPen(isChecked() ? kTesseraScelta.darker(160) : QColor(0x50, 0x50, 0x50), isChecked() ? 3 : 1.5));
+    p.setBrush(captionGround());
+    p.drawRoundedRect(tile, 6, 6);
+    if (hasFocus()) {
+        p.setPen(QPen(ink, 1, Qt::DotLine));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(tile.adjusted(3, 3, -3, -3), 4, 4);
+    }
+    // The mark grows with the caption, up to what the tile can hold.
+    const int d = std::max(8, std::min(fontMetrics().height() * 4 / 5, height() - 8));
+    const double gap = std::max(3.0, d / 4.0);
+    const QRectF mark(tile.left() + gap, tile.center().y() - d / 2.0, d, d);
+    p.setPen(QPen(isEnabled() ? QColor(0x30, 0x30, 0x30) : QColor(0xa0, 0xa0, 0xa0), 1.5));
+    p.setBrush(Qt::white);
+    p.drawEllipse(mark);
+    if (isChecked()) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(kTesseraScelta);
+        p.drawEllipse(mark.adjusted(d / 4.0, d / 4.0, -d / 4.0, -d / 4.0));
+    }
+    p.setPen(ink);
+    p.setFont(font());
+    const QRectF text(mark.right() + gap, tile.top(), tile.right() - mark.right() - gap, tile.height());
+    p.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, this->text());
+}
+
 // ---- Frame ----
 
 Frame::Frame(QWidget* parent) : QGroupBox(parent) {}
@@ -451,6 +563,31 @@ Frame::Frame(QWidget* parent) : QGroupBox(parent) {}
 void Frame::describe(QJsonObject& out) const {
     describeCommon(out);
     out[QStringLiteral("caption")] = title();
+}
+
+void Frame::MostraSopra() {
+    if (QWidget* p = parentWidget()) setGeometry(p->rect());
+    raise();
+    setVisible(true);
+}
+
+void Frame::paintEvent(QPaintEvent*) {
+    adattaInchiostro();
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QFontMetrics fm(font());
+    const QColor ink = isEnabled() ? palette().color(QPalette::WindowText)
+                                   : palette().color(QPalette::Disabled, QPalette::WindowText);
+    p.setPen(QPen(ink, 1.5));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(QRectF(rect()).adjusted(1.5, fm.height() / 2.0 + 1, -1.5, -1.5), 8, 8);
+    if (title().isEmpty()) return;
+    // The caption in the middle of the top edge, on a patch of what it stands on.
+    const int w = std::min(width() - 24, fm.horizontalAdvance(title()) + 20);
+    const QRect t((width() - w) / 2, 0, w, fm.height() + 2);
+    p.fillRect(t, captionGround());
+    p.setPen(ink);
+    p.drawText(t, Qt::AlignCenter, title());
 }
 
 void Frame::setLeft(int twips) {

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <cmath>
 
 namespace contarello {
 
@@ -28,6 +29,23 @@ QString colourName(QColor c) {
     return c.name(QColor::HexRgb);
 }
 
+namespace {
+// The lightness of a colour as the eye weighs it, from 0 for black to 1 for white.
+double luminanza(QColor c) {
+    auto lineare = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF());
+}
+} // namespace
+
+double Contrasto(QColor a, QColor b) {
+    const double la = luminanza(a), lb = luminanza(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+QColor InchiostroSu(QColor fondo) {
+    return Contrasto(Qt::black, fondo) >= Contrasto(Qt::white, fondo) ? QColor(Qt::black) : QColor(Qt::white);
+}
+
 // ---- Form ----
 
 Form::Form(Program& program, int widthTwips, int heightTwips)
@@ -45,12 +63,17 @@ void Form::setBackColor(QColor c) {
     backColor_ = c;
     QPalette p = palette();
     p.setColor(QPalette::Window, c);
-    // Captions stand on the background itself: on the dark colours of the table they turn white,
-    // so that a child can still read the counters and the question.
-    const double luminance = 0.2126 * c.redF() + 0.7152 * c.greenF() + 0.0722 * c.blueF();
-    p.setColor(QPalette::WindowText, luminance < 0.4 ? Qt::white : Qt::black);
+    // What stands on the background itself and isn't a control of ours takes the readable colour
+    // too; each control chooses its own against what it really stands on.
+    p.setColor(QPalette::WindowText, InchiostroSu(c));
     setPalette(p);
+    adattaInchiostri();
     update();
+}
+
+void Form::adattaInchiostri() {
+    for (Control* c : controls_)
+        c->adattaInchiostro();
 }
 
 void Form::paintEvent(QPaintEvent*) {

@@ -38,6 +38,10 @@ inline int tw(int twips) {
 QFont Arial(double points, bool bold = true);
 QFont SansSerif(double points, bool bold = false); // "MS Sans Serif", mapped to Liberation Sans
 QString colourName(QColor c);
+// How far apart two colours stand to the eye: 1 for the same, 21 for black on white.
+double Contrasto(QColor a, QColor b);
+// Black or white, whichever reads better on the given ground.
+QColor InchiostroSu(QColor fondo);
 
 enum MouseButton { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
 
@@ -70,9 +74,23 @@ public:
     QColor BackColor() const { return backColor_; }
     bool hasBackColor() const { return backColor_.isValid(); }
 
+    // The colour of the caption when the program chooses one; otherwise black or white, whichever
+    // reads better on what the caption stands on.
+    void setForeColor(QColor c);
+    QColor ForeColor() const { return foreColor_; }
+    // The palette role the caption is written in; NoRole for controls without one.
+    virtual QPalette::ColorRole captionRole() const { return QPalette::NoRole; }
+    // What the caption stands on: the control's own fill, or the nearest fill behind it, or the
+    // form's background.
+    virtual QColor captionGround() const;
+    // Puts the caption's colour right for its ground. Cheap when nothing changed: each control
+    // runs it before it paints, so a fill turned on or off later is followed too.
+    void adattaInchiostro();
+
 protected:
     void describeCommon(QJsonObject& out) const;
     QColor backColor_;
+    QColor foreColor_;
 };
 
 class Label : public QLabel, public Control {
@@ -92,6 +110,7 @@ public:
     void setAutoSize(bool on);
     // What a drag of this label carries; a drop on a control with a DragDrop handler delivers it.
     QMimeData* dragData() const;
+    QPalette::ColorRole captionRole() const override { return QPalette::WindowText; }
 
     std::function<void()> Click;
     // Button as 1 left, 2 right, 4 middle; x and y in twips from the label's corner.
@@ -99,6 +118,7 @@ public:
     std::function<void(int button, int shift, int x, int y)> MouseUp;
 
 protected:
+    void paintEvent(QPaintEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
@@ -122,7 +142,10 @@ public:
 
     QString Caption() const { return caption_; }
     void setCaption(const QString& c);
-    void setPicture(const QPixmap& p);
+    // The picture, and how it looks while the button is disabled; greyed when none is given.
+    void setPicture(const QPixmap& p, const QPixmap& disabled = QPixmap());
+    QPalette::ColorRole captionRole() const override { return QPalette::ButtonText; }
+    QColor captionGround() const override;
 
     std::function<void()> Click;
     // Button as 1 left, 2 right, 4 middle; x and y in twips from the button's corner.
@@ -138,7 +161,7 @@ protected:
 
 private:
     QString caption_;
-    QPixmap picture_;
+    QPixmap picture_, disabledPicture_;
 };
 
 class TextBox : public QLineEdit, public Control {
@@ -153,6 +176,8 @@ public:
     void setText(const QString& t) { QLineEdit::setText(t); }
     void SetFocus();
     void setFontSize(double points);
+    QPalette::ColorRole captionRole() const override { return QPalette::Text; }
+    QColor captionGround() const override { return palette().color(QPalette::Base); }
 
     // The ANSI code of the key typed; the handler may change it, and 0 drops the key.
     std::function<void(int& keyAscii)> KeyPress;
@@ -160,6 +185,7 @@ public:
     std::function<void(int keyCode, int shift)> KeyUp;
 
 protected:
+    void paintEvent(QPaintEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     void keyReleaseEvent(QKeyEvent* e) override;
 
@@ -181,6 +207,8 @@ public:
     void setFontSize(double points);
     void SetFocus();
     int MaxLength = 0;
+    QPalette::ColorRole captionRole() const override { return QPalette::Text; }
+    QColor captionGround() const override { return palette().color(QPalette::Base); }
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
@@ -205,10 +233,18 @@ public:
     // Setting it True runs Click, as a choice made by the user does.
     void setValue(bool v);
     void setBackColor(QColor c) override;
+    // The caption stands on the option's own tile, strong when chosen.
+    QPalette::ColorRole captionRole() const override { return QPalette::WindowText; }
+    QColor captionGround() const override;
 
     // Runs on every click of the user, on the option already chosen too: a child who wants to keep
     // the present choice must be able to say so.
     std::function<void()> Click;
+
+protected:
+    // A large round mark on a tile as big as the control, all of it a target for a small hand.
+    void paintEvent(QPaintEvent* e) override;
+    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
 };
 
 class Frame : public QGroupBox, public Control {
@@ -222,6 +258,14 @@ public:
     void setCaption(const QString& c) { setTitle(c); }
     void setLeft(int twips);
     void setTop(int twips);
+    QPalette::ColorRole captionRole() const override { return QPalette::WindowText; }
+    // A panel that lies over the whole screen: at Left 0 and Top 0, as large as the screen's area
+    // under the menu bar, in front of everything, shown.
+    void MostraSopra();
+
+protected:
+    // A rounded edge with the caption set into its top, away from the window's edge.
+    void paintEvent(QPaintEvent* e) override;
 };
 
 // A figure drawn in its own colours: the inside in BackColor when BackStyle is opaque, over it
@@ -385,7 +429,10 @@ public:
     virtual QJsonObject fields() const { return {}; }
 
     QString name() const { return objectName(); }
+    // The background; every caption on the screen then takes a colour that reads on what it
+    // stands on.
     void setBackColor(QColor c);
+    void adattaInchiostri();
     QColor BackColor() const { return backColor_; }
     // Only a screen with a title bar shows its caption.
     QString Caption() const { return caption_; }

@@ -111,20 +111,22 @@ void ExerciseForm::RispostaErrata() {
 
 void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const QString& menuCaption,
                                                 MenuItem* before) {
-    CorniceNumeroMassimo = frame(QStringLiteral("CorniceNumeroMassimo"),
-                                 QStringLiteral("Scegli il numero massimo entro il quale lavorare"), 0, 0,
-                                 11355, 7890, Arial(14.25));
-    // The panel lies over the whole screen in the colour of the menus, so nothing behind it shows.
-    QPalette p = CorniceNumeroMassimo->palette();
-    p.setColor(QPalette::Window, QColor(0xc0, 0xff, 0xff));
-    CorniceNumeroMassimo->setPalette(p);
-    CorniceNumeroMassimo->setAutoFillBackground(true);
+    // The panel covers the screen's area under the menu bar, so nothing behind it shows.
+    CorniceNumeroMassimo =
+        frame(QStringLiteral("CorniceNumeroMassimo"),
+              QStringLiteral("Scegli il numero massimo entro il quale lavorare"), 0, 0,
+              client()->width() * kTwipsPerPixel, client()->height() * kTwipsPerPixel, Arial(14.25));
+    CorniceNumeroMassimo->setBackColor(QColor(0xc0, 0xff, 0xff));
     CorniceNumeroMassimo->setVisible(false);
+    // Three columns of three large tiles, in the middle of the panel.
+    constexpr int kLargo = 2400, kAlto = 1080, kPasso = 480;
+    const int sinistra = (client()->width() * kTwipsPerPixel - 3 * kLargo - 2 * kPasso) / 2;
     for (int i = 0; i < 9; ++i) {
         const int col = i / 3, row = i % 3;
         auto* o = option(indexed(QStringLiteral("OpzioneNumeroMassimo"), i), QString::number(19 + 10 * i),
-                         840 + col * 2880, 1080 + row * 1320, 1575, 855, Arial(20.25), CorniceNumeroMassimo);
-        o->setAutoFillBackground(false); // the options stand on the panel, not on grey patches
+                         sinistra + col * (kLargo + kPasso), 1080 + row * (kAlto + kPasso), kLargo, kAlto,
+                         Arial(20.25), CorniceNumeroMassimo);
+        o->setAutoFillBackground(false); // the tiles stand on the panel, not on grey patches
         o->Click = [this, i] {
             g.NumeroMassimo = int16_t(19 + 10 * i);
             NuovaDomanda();
@@ -134,11 +136,18 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
     }
     MenuItem* item = menu(menuName, menuCaption, nullptr, before);
     item->Click = [this] {
-        CorniceNumeroMassimo->setLeft(0);
-        CorniceNumeroMassimo->setTop(0);
-        CorniceNumeroMassimo->raise();
-        CorniceNumeroMassimo->setVisible(true);
+        MostraNumeroMassimo();
+        CorniceNumeroMassimo->MostraSopra();
     };
+}
+
+void ExerciseForm::MostraNumeroMassimo() {
+    // The limit in force shows as chosen; one set from the main menu, such as 25, is none of them.
+    for (auto& [i, o] : OpzioneNumeroMassimo) {
+        o->setAutoExclusive(false);
+        o->setChecked(g.NumeroMassimo == 19 + 10 * i);
+        o->setAutoExclusive(true);
+    }
 }
 
 // ---- QuestionForm ----

@@ -100,6 +100,8 @@ protected:
     // to 99 and draw a new question.
     void AggiungiCorniceNumeroMassimo(const QString& menuName, const QString& menuCaption,
                                       MenuItem* before = nullptr);
+    // Marks the option of the limit in force, without choosing it.
+    void MostraNumeroMassimo();
 
     Label* Label1;
     Label* Label2;

@@ -54,8 +54,13 @@ QPixmap Freccia() {
         QPolygonF arrow;
         arrow << QPointF(2, 11) << QPointF(17, 11) << QPointF(17, 3) << QPointF(30, 16) << QPointF(17, 29)
               << QPointF(17, 21) << QPointF(2, 21);
+        // Bright and edged in dark blue: the arrow a child is waiting to press. Disabled, the button
+        // shows it greyed.
+        QLinearGradient fill(0, 3, 0, 29);
+        fill.setColorAt(0, QColor(0x8c, 0xc4, 0xff));
+        fill.setColorAt(1, QColor(0x1c, 0x6c, 0xe8));
         p.setPen(QPen(QColor(0x00, 0x00, 0x80), 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        p.setBrush(QColor(0xd4, 0xd4, 0xd4));
+        p.setBrush(fill);
         p.drawPolygon(arrow);
     });
 }

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLibrary>
 #include <QLibraryInfo>
@@ -67,6 +68,12 @@ QFont kBoxFont() {
     f.setPointSizeF(12);
     return f;
 }
+// The window system writes the title in the bar beside its own icon and buttons: a box at least
+// this wide shows the whole title, however short its text.
+int LarghezzaPerTitolo(const QString& title) {
+    return QFontMetrics(kBoxFont()).horizontalAdvance(title) + 180;
+}
+
 } // namespace
 
 int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
@@ -74,6 +81,11 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
     box.setFont(kBoxFont());
     box.setWindowTitle(title);
     box.setText(text);
+    // The box sizes itself to its text; a row as wide as the title keeps it from getting narrower.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(
+            new QSpacerItem(LarghezzaPerTitolo(title), 0, QSizePolicy::Minimum, QSizePolicy::Minimum),
+            grid->rowCount(), 0, 1, grid->columnCount());
     switch (style & 0xF0) {
     case vbCritical:
         box.setIcon(QMessageBox::Critical);
@@ -101,10 +113,12 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
 }
 
 QString QtDialogs::InputBox(const QString& prompt, const QString& title, const QString& defaultText) {
-    bool ok = false;
-    const QString text = QInputDialog::getText(QApplication::activeWindow(), title, prompt, QLineEdit::Normal,
-                                               defaultText, &ok);
-    return ok ? text : QString();
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(title);
+    box.setLabelText(prompt);
+    box.setTextValue(defaultText);
+    box.setMinimumWidth(LarghezzaPerTitolo(title));
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
 QString QtDialogs::SaveFile(const QString& title, const QString& defaultName, const QString& filter) {

@@ -125,7 +125,7 @@ void ColumnsTest::addizioneSenzaCambio() {
     QCOMPARE(h.caption("Eda2"), "");
     trascina(h, "Lu1", "Eu1"); // one digit is the whole first addend
     QCOMPARE(h.caption("Eu1") + h.caption("Eda1"), " 5");
-    QCOMPARE(h.caption("Label3"), "Incolonna il secondo addendo trascinando le cifre cin il mouse.");
+    QCOMPARE(h.caption("Label3"), "Incolonna il secondo addendo trascinando le cifre con il mouse.");
     trascina(h, "Lu2", "Eu2");
     trascina(h, "Lda2", "Eda2");
     QCOMPARE(h.caption("Label3"), kUnitaAdd);
@@ -156,7 +156,7 @@ void ColumnsTest::addizioneSenzaCambio() {
 void ColumnsTest::riporto() {
     Harness h;
     apri(h, "FormCol2", {0.0, v(40, 79), v(36, 60)});
-    QCOMPARE(h.caption("Label3"), "Incolonna il primo addendo trascinando le cifre con il muose.");
+    QCOMPARE(h.caption("Label3"), "Incolonna il primo addendo trascinando le cifre con il mouse.");
     colloca(h, "1");
     QCOMPARE(h.caption("Label3"), "Incolonna il secondo addendo trascinando le cifre con il mouse.");
     colloca(h, "2");

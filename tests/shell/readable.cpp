@@ -1,0 +1,214 @@
+// What a child must be able to see: every caption readable on every background a screen can take,
+// the "avanti" arrow plainly on or off, the choice panels inside their screen with the choice in
+// force marked, and boxes wide enough for their title.
+
+#include "shell/colori.h"
+#include "shell/forms.h"
+#include "shell/program.h"
+#include "shell/qtservices.h"
+#include "app/screens.h"
+#include "support/harness.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace contarello;
+using namespace contarello::test;
+
+namespace {
+
+// Large bold captions need this much contrast to be read comfortably; every caption here is
+// bold, 12 points or more.
+constexpr double kContrastoMinimo = 3.0;
+
+// What the caption is painted on, found from the widgets themselves: a button's face, a box's
+// field, an option's own tile, else the nearest fill behind it, up to the screen's background.
+QColor behind(Control* c) {
+    QWidget* w = c->widget();
+    if (qobject_cast<QRadioButton*>(w)) return c->captionGround();
+    if (qobject_cast<QAbstractButton*>(w)) return w->palette().color(QPalette::Button);
+    if (qobject_cast<QLineEdit*>(w) || qobject_cast<QPlainTextEdit*>(w) || qobject_cast<QListWidget*>(w))
+        return w->palette().color(QPalette::Base);
+    for (; w; w = w->parentWidget()) {
+        if (auto* f = qobject_cast<Form*>(w)) return f->BackColor();
+        if (w->autoFillBackground()) return w->palette().color(w->backgroundRole());
+    }
+    return {};
+}
+
+// Every enabled control with a caption whose colour is too close to what it stands on, shown or
+// not: a hidden one shows later on the same background.
+QStringList unreadable(Form* form, const QString& where) {
+    form->grab(); // paints what shows, as the screen on the display does
+    QStringList bad;
+    for (Control* c : form->controls()) {
+        QWidget* w = c->widget();
+        if (!w || c->captionRole() == QPalette::NoRole || !c->Enabled()) continue;
+        const QColor ink = w->palette().color(QPalette::Active, c->captionRole());
+        const QColor ground = behind(c);
+        if (Contrasto(ink, ground) < kContrastoMinimo)
+            bad << QStringLiteral("%1 %2: %3 on %4")
+                       .arg(where, c->name(), colourName(ink), colourName(ground));
+    }
+    return bad;
+}
+
+// The strongest colour on a button's face, inside its edge: 0 for greys only.
+int saturation(const QImage& im) {
+    int most = 0;
+    for (int y = 4; y < im.height() - 4; ++y)
+        for (int x = 4; x < im.width() - 4; ++x)
+            most = std::max(most, QColor(im.pixel(x, y)).hsvSaturation());
+    return most;
+}
+
+} // namespace
+
+class ReadableTest : public QObject {
+    Q_OBJECT
+private slots:
+    // Every screen of the program at every colour its background can take.
+    void captionsOnEveryBackground() {
+        QStringList bad;
+        for (const FormEntry& entry : FormTable()) {
+            Harness h;
+            h.dump();
+            h.run(QStringLiteral(R"J({"show": "%1"})J").arg(QLatin1String(entry.name)));
+            Form* form = h.engine.program().nav.find(QLatin1String(entry.name));
+            QVERIFY(form);
+            const std::optional<Variante> v = VarianteDi(*form);
+            if (!v) {
+                bad << unreadable(form, QLatin1String(entry.name));
+                continue;
+            }
+            for (int slot = 1; slot <= 18; ++slot) {
+                h.rnd({(slot - 0.5) / 18});
+                CaricaColori(*form, *v);
+                QCOMPARE(form->BackColor(), ColoreSlot(*v, slot));
+                bad << unreadable(form,
+                                  QStringLiteral("%1 slot %2").arg(QLatin1String(entry.name)).arg(slot));
+            }
+        }
+        QVERIFY2(bad.isEmpty(), qPrintable(bad.join(u'\n')));
+    }
+
+    // The numbers placed on FormOrd and the digits left to drag on FormCol2, once they show.
+    void captionsAfterMoves() {
+        Harness h;
+        h.dump();
+        h.rnd({0.4166}); // slot 8, #c04000
+        h.run(R"J({"show": "FormCol2"})J");
+        Form* col = h.engine.program().nav.find(QStringLiteral("FormCol2"));
+        h.run(R"J({"drag": "Lu1", "to": "Eu1"})J");
+        QVERIFY2(unreadable(col, "FormCol2").isEmpty(), qPrintable(unreadable(col, "FormCol2").join(u'\n')));
+
+        h.rnd({0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.9444}); // two questions in Load: the second is blue
+        h.run(R"J({"show": "FormOrd"})J");
+        h.run(R"J({"click": "ComandoNumero(0)"})J");
+        Form* ord = h.engine.program().nav.find(QStringLiteral("FormOrd"));
+        QCOMPARE(colourName(ord->BackColor()), QStringLiteral("#0000ff"));
+        QVERIFY2(unreadable(ord, "FormOrd").isEmpty(), qPrintable(unreadable(ord, "FormOrd").join(u'\n')));
+    }
+
+    // Off, the arrow is grey on any background; on, it has a colour of its own.
+    void avantiLooksOnOrOff() {
+        Harness h;
+        h.dump();
+        h.run(R"J({"show": "Form1"})J");
+        Form* form = h.engine.program().nav.find(QStringLiteral("Form1"));
+        QWidget* avanti = form->find(QStringLiteral("BottoneAvanti"))->widget();
+        QVERIFY(avanti->isVisible() && !avanti->isEnabled());
+        for (QColor c : {QColor(0xff, 0x00, 0x00), QColor(0x00, 0x00, 0xff), QColor(0xff, 0xff, 0x00)}) {
+            form->setBackColor(c);
+            QCOMPARE(saturation(avanti->grab().toImage()), 0);
+        }
+        avanti->setEnabled(true);
+        QVERIFY(saturation(avanti->grab().toImage()) > 150);
+    }
+
+    // The panels lie inside their screen, with targets a small hand hits, and mark the choice in force.
+    void panels_data() {
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("panel");
+        QTest::addColumn<int>("limit");
+        QTest::addColumn<QString>("chosen"); // empty when no option stands for the limit
+        QTest::newRow("limit 39") << "FormScri"
+                                  << "mnuNumeroMassimo"
+                                  << "CorniceNumeroMassimo" << 39 << "OpzioneNumeroMassimo(2)";
+        QTest::newRow("limit 99") << "FormScri2"
+                                  << "mnuNumeroMassimo"
+                                  << "CorniceNumeroMassimo" << 99 << "OpzioneNumeroMassimo(8)";
+        QTest::newRow("limit 25 is no option") << "FormScri"
+                                               << "mnuNumeroMassimo"
+                                               << "CorniceNumeroMassimo" << 25 << "";
+        QTest::newRow("how many to order") << "FormOrd"
+                                           << "MenuQuantiNumeri"
+                                           << "EtNumeri" << 99 << "Option3D1(4)";
+    }
+    void panels() {
+        QFETCH(QString, form);
+        QFETCH(QString, menu);
+        QFETCH(QString, panel);
+        QFETCH(int, limit);
+        QFETCH(QString, chosen);
+        Harness h;
+        h.dump();
+        h.setLimit(limit);
+        h.run(QStringLiteral(R"J({"show": "%1"})J").arg(form));
+        // A choice made before, then the limit changed behind the panel's back.
+        if (!chosen.startsWith("Option3D1")) {
+            h.run(QStringLiteral(R"J({"menu": "%1"})J").arg(menu));
+            h.run(R"J({"click": "OpzioneNumeroMassimo(0)"})J");
+            h.engine.program().g.NumeroMassimo = int16_t(limit);
+        }
+        h.run(QStringLiteral(R"J({"menu": "%1"})J").arg(menu));
+        Form* f = h.engine.program().nav.find(form);
+        QWidget* p = f->find(panel)->widget();
+        QCOMPARE(p->geometry(), f->client()->rect());
+        int options = 0;
+        for (Control* c : f->controls()) {
+            auto* o = qobject_cast<QRadioButton*>(c->widget());
+            if (!o || o->parentWidget() != p) continue;
+            ++options;
+            QVERIFY2(p->rect().contains(o->geometry()), qPrintable(c->name()));
+            QVERIFY2(o->height() >= 48 && o->width() >= 120, qPrintable(c->name()));
+            QCOMPARE(o->isChecked(), c->name() == chosen);
+        }
+        QVERIFY(options >= 6);
+    }
+
+    // The real boxes, closed as soon as they show.
+    void boxesShowTheirTitle() {
+        Harness h; // the application's fonts as the program has them
+        QtDialogs dialogs;
+        int width = 0;
+        QFont font;
+        auto measure = [&] {
+            QTimer::singleShot(0, [&] {
+                QWidget* box = QApplication::activeModalWidget();
+                QVERIFY(box);
+                width = box->width();
+                font = box->font();
+                box->close();
+            });
+        };
+        measure();
+        dialogs.MsgBox(QStringLiteral("Bravo"), 0, kTitolo);
+        // Room for the title beside the bar's icon and its buttons.
+        QVERIFY2(width >= QFontMetrics(font).horizontalAdvance(kTitolo) + 120,
+                 qPrintable(QString::number(width)));
+        measure();
+        dialogs.InputBox(QStringLiteral("Quanti?"), kTitolo, QString());
+        QVERIFY2(width >= QFontMetrics(font).horizontalAdvance(kTitolo) + 120,
+                 qPrintable(QString::number(width)));
+    }
+};
+
+QTEST_MAIN(ReadableTest)
+#include "readable.moc"
