@@ -1,7 +1,8 @@
 #include "driver/engine.h"
-#include "shell/forms.h"
 #include "app/screens.h"
+#include "shell/forms.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -112,9 +113,9 @@ Qt::MouseButton qtButton(int vb) {
 }
 
 const char* const kSetupCommands[] = {"seed", "rnd", "msgbox", "inputbox", "savefile"};
-const char* const kCommands[] = {"seed",     "rnd",   "msgbox", "inputbox",  "savefile", "show",
-                                 "activate", "click", "menu",   "mousedown", "type",     "key",
-                                 "settext",  "drag",  "dump",   "screenshot"};
+const char* const kCommands[] = {"seed",     "rnd",   "msgbox", "inputbox",   "savefile", "show",
+                                 "activate", "click", "menu",   "mousedown",  "type",     "key",
+                                 "settext",  "drag",  "dump",   "screenshot", "close"};
 
 } // namespace
 
@@ -219,6 +220,14 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         Form* form = app_->nav.find(arg.toString());
         if (!form) return fail(QStringLiteral("no loaded screen named ") + arg.toString());
         app_->nav.bringToFront(form);
+        return ok();
+    }
+    if (verb == u"close") {
+        Form* form = app_->nav.find(arg.toString());
+        if (!form) return fail(QStringLiteral("no loaded screen named ") + arg.toString());
+        // What the window system sends for the close box or Alt+F4; the screen decides what follows.
+        QCloseEvent close;
+        QCoreApplication::sendEvent(form, &close);
         return ok();
     }
 

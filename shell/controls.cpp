@@ -786,7 +786,9 @@ void MenuItem::setCaption(const QString& c) {
 
 QMenu* MenuItem::submenu() {
     if (!submenu_) {
-        submenu_ = new QMenu(caption_);
+        // setMenu doesn't take the menu: the widget that holds the item owns it, so the submenu and
+        // its items go with the screen.
+        submenu_ = new QMenu(caption_, qobject_cast<QWidget*>(action_->parent()));
         action_->setMenu(submenu_);
     }
     return submenu_;

@@ -3,6 +3,8 @@
 #include "shell/pictures.h"
 #include "shell/program.h"
 
+#include <limits>
+
 namespace contarello {
 
 QString FiltroCifre(const QString& text) {
@@ -83,10 +85,19 @@ void ExerciseForm::AzzeraConteggio() {
     g.Errati = 0;
 }
 
+namespace {
+
+// A counter stops at the largest value it holds: the child's score never turns negative.
+void countUp(int16_t& counter) {
+    if (counter < std::numeric_limits<int16_t>::max()) ++counter;
+}
+
+} // namespace
+
 void ExerciseForm::RispostaEsatta() {
     ComandoIconaSi->setVisible(true);
     ComandoIconaNo->setVisible(false);
-    ++g.Esatti;
+    countUp(g.Esatti);
     SuonoEsatto(app);
     EtichettaEsatti->setCaption(Str(g.Esatti));
 }
@@ -104,7 +115,7 @@ void ExerciseForm::RispostaEsattaPoiAvanti(const std::function<void()>& inAttesa
 void ExerciseForm::RispostaErrata() {
     ComandoIconaSi->setVisible(false);
     ComandoIconaNo->setVisible(true);
-    ++g.Errati;
+    countUp(g.Errati);
     SuonoErrato(app);
     EtichettaErrati->setCaption(Str(g.Errati));
 }

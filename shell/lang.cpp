@@ -74,19 +74,35 @@ double Val(const QString& text) {
     return std::strtod(num.c_str(), nullptr);
 }
 
+namespace {
+
+constexpr double kTwoTo63 = 9223372036854775808.0;
+
+// A whole number held in a long long: beyond its range it stays at the nearer end, and NaN, which
+// has no side, is 0. No screen passes such values, but the functions hold for every double.
+long long HeldInRange(double whole) {
+    if (std::isnan(whole)) return 0;
+    if (whole >= kTwoTo63) return std::numeric_limits<long long>::max();
+    if (whole < -kTwoTo63) return std::numeric_limits<long long>::min();
+    return static_cast<long long>(whole);
+}
+
+} // namespace
+
 QString Format(double n, const QString& pattern) {
     Q_UNUSED(pattern); // both patterns the program uses group thousands and show at least one digit
-    const long long v = std::llround(n);
-    QString digits = QString::number(v < 0 ? -v : v);
+    const long long v = HeldInRange(std::round(n));
+    // The magnitude as unsigned, so the lowest long long has one too.
+    const unsigned long long m =
+        v < 0 ? 0ULL - static_cast<unsigned long long>(v) : static_cast<unsigned long long>(v);
+    QString digits = QString::number(m);
     for (int pos = digits.size() - 3; pos > 0; pos -= 3)
         digits.insert(pos, QLatin1Char('.'));
     return v < 0 ? QLatin1Char('-') + digits : digits;
 }
 
 long long Int(double x) {
-    if (!std::isfinite(x))
-        return x > 0 ? std::numeric_limits<long long>::max() : std::numeric_limits<long long>::min();
-    return static_cast<long long>(std::floor(x));
+    return HeldInRange(std::floor(x));
 }
 
 int16_t CInt(double x) {

@@ -18,10 +18,12 @@ QString Str(long long n);
 double Val(const QString& text);
 
 // Formats with the patterns "#,##0" and "###,###,##0": digits grouped by thousands with the
-// Italian separator, no blank in front.
+// Italian separator, no blank in front. Rounds half away from zero; beyond the range of a long long
+// the number is held at its ends as by Int, and NaN is "0".
 QString Format(double n, const QString& pattern);
 
-// The next integer down: Int(-0.5) is -1.
+// The next integer down: Int(-0.5) is -1. Beyond the range of a long long (infinities included) the
+// result is held at its nearer end; NaN gives 0.
 long long Int(double x);
 
 // A fraction stored in a 16-bit integer: nearest integer, a half to the even neighbour. Values

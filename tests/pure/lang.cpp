@@ -5,6 +5,7 @@
 #include "shell/services.h"
 
 #include <QTest>
+#include <limits>
 
 using namespace contarello;
 
@@ -54,6 +55,32 @@ private slots:
     void format() {
         QCOMPARE(Format(0, QStringLiteral("#,##0")), QStringLiteral("0"));
         QCOMPARE(Format(1500000, QStringLiteral("#,##0")), QStringLiteral("1.500.000"));
+    }
+
+    // Int and Format agree on every double: beyond a long long both stay at its nearer end.
+    void beyondTheRange_data() {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<long long>("whole");
+        QTest::addColumn<QString>("formatted");
+        const long long hi = std::numeric_limits<long long>::max();
+        const long long lo = std::numeric_limits<long long>::min();
+        QTest::newRow("NaN") << qQNaN() << 0LL << "0";
+        QTest::newRow("infinity") << qInf() << hi << "9.223.372.036.854.775.807";
+        QTest::newRow("minus infinity") << -qInf() << lo << "-9.223.372.036.854.775.808";
+        QTest::newRow("1e53") << Val(QStringLiteral("1e53")) << hi << "9.223.372.036.854.775.807";
+        QTest::newRow("2^63") << 9223372036854775808.0 << hi << "9.223.372.036.854.775.807";
+        QTest::newRow("-2^63 fits") << -9223372036854775808.0 << lo << "-9.223.372.036.854.775.808";
+        QTest::newRow("below -2^63") << -1e19 << lo << "-9.223.372.036.854.775.808";
+        QTest::newRow("largest double under 2^63")
+            << 9223372036854774784.0 << 9223372036854774784LL << "9.223.372.036.854.774.784";
+        QTest::newRow("a half rounds away in Format") << -2.5 << -3LL << "-3";
+    }
+    void beyondTheRange() {
+        QFETCH(double, x);
+        QFETCH(long long, whole);
+        QFETCH(QString, formatted);
+        QCOMPARE(Int(x), whole);
+        QCOMPARE(Format(x, QStringLiteral("###,###,##0")), formatted);
     }
 
     void textFunctions() {

@@ -194,6 +194,28 @@ private slots:
         QVERIFY(!h.visible("ComandoIconaSi"));
     }
 
+    // A counter at its largest value stays there, on both the variable and its label.
+    void countersStopAtTheirLargestValue_data() {
+        QTest::addColumn<bool>("right");
+        QTest::newRow("Esatti") << true;
+        QTest::newRow("Errati") << false;
+    }
+    void countersStopAtTheirLargestValue() {
+        QFETCH(bool, right);
+        Harness h;
+        openForm1(h, false);
+        Modulo1& g = h.engine.program().g;
+        (right ? g.Esatti : g.Errati) = 32766;
+        const QString counter = right ? QStringLiteral("Esatti") : QStringLiteral("Errati");
+        for (int i = 0; i < 3; ++i) {
+            const int esatto = h.global("NumeroEsatto");
+            h.answer("Text1", QString::number(right ? esatto : esatto + 1));
+        }
+        QCOMPARE(h.global(counter), 32767);
+        QCOMPARE(h.caption("Etichetta" + counter), QStringLiteral(" 32767"));
+        QCOMPARE(h.global(right ? "Errati" : "Esatti"), 0);
+    }
+
     void informazioni() {
         Harness h;
         openForm1(h);

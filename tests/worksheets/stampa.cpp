@@ -162,6 +162,32 @@ private slots:
         QCOMPARE(h.events("print"), printed(12, QStringLiteral("\r\n"), "Contarello - scheda 25"));
     }
 
+    // FormOrd left while its worksheet stays: "Nuova scheda" builds the sheet of a FormOrd just
+    // loaded, rows of 8 from the smallest up, not a blank page.
+    void theOrderingSheetOutlivesItsScreen() {
+        Harness h;
+        h.script(R"J({"click": "BottoneAvvio"}
+                     {"click": "Command3"}
+                     {"click": "Command9"}
+                     {"menu": "MenuGiu"}
+                     {"menu": "mnuStampa"}
+                     {"activate": "FormOrd"}
+                     {"msgbox": [6]}
+                     {"menu": "mnuEsci"}
+                     {"activate": "formStampa"})J");
+        QCOMPARE(h.dump().value("loaded").toArray(), (QJsonArray{"formStampa", "FormMenu"}));
+        const QList<double> draws = queue(h, 48);
+        click(h, "Command2");
+        ScriptedRandom rnd;
+        for (double v : draws)
+            rnd.queue(v);
+        Modulo1 g;
+        g.NumeroMassimo = int16_t(h.global("NumeroMassimo"));
+        const Scheda s = FaiScheda(4, {5, 2, "8", "Ordina i numeri dal minore al maggiore "}, g, rnd);
+        QCOMPARE(h.text("txtCD"), s.txtCD);
+        QCOMPARE(h.text("TextCor"), s.TextCor);
+    }
+
     void esciGoesBackToTheExercise_data() {
         QTest::addColumn<bool>("waiting");
         QTest::newRow("while answering") << false;
