@@ -2,7 +2,7 @@
 
 #include "app/paths.h"
 #include "shell/firstpaint.h"
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
 #include "app/screens.h"

@@ -2,7 +2,7 @@
 // screen is up, so that the start doesn't wait for the audio libraries, and a machine without them
 // or without an audio device simply stays silent.
 
-#include "shell/services.h"
+#include "core/services.h"
 
 #include <QFileInfo>
 #include <QSoundEffect>

@@ -3,7 +3,7 @@
 // Run: QT_QPA_PLATFORM=offscreen build/contarello-bench
 
 #include "driver/engine.h"
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "shell/qtservices.h"
 #include "worksheets/generators/generators.h"
 

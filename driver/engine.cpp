@@ -1,6 +1,6 @@
 #include "driver/engine.h"
 #include "app/screens.h"
-#include "shell/forms.h"
+#include "shell/form.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

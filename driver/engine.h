@@ -2,8 +2,9 @@
 // The program driven by commands, one JSON object each, with scripted services. The driver reads
 // them from its input; the end-to-end tests call the same engine in process.
 
+#include "core/scripted.h"
+#include "driver/recordingprinter.h"
 #include "shell/program.h"
-#include "shell/services.h"
 
 #include <QJsonObject>
 #include <memory>

@@ -2,7 +2,7 @@
 // trimmed text without them, and it always ends in CR LF.
 
 #include "fuzz/check.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 #include "worksheets/generators/generators.h"
 
 using namespace contarello;

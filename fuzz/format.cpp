@@ -2,7 +2,7 @@
 // number it stands for is the double rounded and held in range, as Int holds it.
 
 #include "fuzz/check.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 
 #include <cmath>
 #include <limits>

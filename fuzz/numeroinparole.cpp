@@ -3,7 +3,7 @@
 // each new word below a thousand.
 
 #include "fuzz/check.h"
-#include "shell/numberwords.h"
+#include "core/numberwords.h"
 
 using namespace contarello;
 using namespace contarello::fuzz;

@@ -2,7 +2,7 @@
 // back; Int gives it back whole wherever a double holds it exactly.
 
 #include "fuzz/check.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 
 using namespace contarello;
 using namespace contarello::fuzz;

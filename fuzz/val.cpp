@@ -2,7 +2,7 @@
 // count. A sign is read only at the start, so the text after it is tried with a letter after it.
 
 #include "fuzz/check.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 
 #include <cmath>
 

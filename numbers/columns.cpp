@@ -1,5 +1,5 @@
 #include "numbers/columns.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 #include "shell/program.h"
 
 namespace contarello {

@@ -4,7 +4,7 @@
 // carry up or changes a ten down where the numbers ask for it. Four screens, two operations: the
 // column, the drops and the answers are written once here, each operation adds its own step.
 
-#include "shell/frame.h"
+#include "shell/exercise.h"
 
 #include <memory>
 #include <optional>

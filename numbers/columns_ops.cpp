@@ -1,8 +1,8 @@
 // The two operations of the column screens: how each draws its numbers, and the step each adds,
 // the carry moved up to the tens or a ten changed down into units.
 
+#include "core/lang.h"
 #include "numbers/columns.h"
-#include "shell/lang.h"
 #include "shell/program.h"
 
 namespace contarello {

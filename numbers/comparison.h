@@ -2,7 +2,7 @@
 // Two screens on reading a number: FormMM asks which of ">", "<", "=" stands between two numbers,
 // FormSimb shows a number as tens and units ("4 da 7 u") and asks for it in digits.
 
-#include "shell/frame.h"
+#include "shell/exercise.h"
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 // Formesp: a number broken into tens and units as an expression with brackets, (10 x 4) + (1 x 7) =,
 // whose value the child writes in digits.
 
-#include "shell/frame.h"
+#include "shell/exercise.h"
 
 #include <memory>
 

@@ -1,5 +1,5 @@
 #include "numbers/neighbours.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 #include "shell/program.h"
 
 #include <array>

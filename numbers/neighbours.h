@@ -3,7 +3,7 @@
 // in between. One class, one table; after a right answer the whole row is written anew, so the child
 // reads the numbers in their order without the blank line.
 
-#include "shell/frame.h"
+#include "shell/exercise.h"
 
 #include <memory>
 

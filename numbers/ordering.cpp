@@ -1,5 +1,6 @@
 #include "numbers/ordering.h"
-#include "shell/lang.h"
+#include "core/lang.h"
+#include "shell/pictures.h"
 #include "shell/program.h"
 
 #include <QJsonArray>
@@ -16,26 +17,6 @@ const QString kFormato = QStringLiteral("###,###,##0");
 constexpr int kPosti = 8; // buttons and labels of the two columns
 // Wide enough for the six items of the menu bar to show in full.
 constexpr int kLarghezza = 12600;
-
-// A green arrow turning back on itself: "start again".
-QPixmap FrecciaCircolare() {
-    QPixmap pm(32, 32);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    const QColor verde(0x00, 0x80, 0x00);
-    p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::FlatCap));
-    p.drawArc(QRectF(5, 5, 22, 22), 100 * 16, 290 * 16);
-    QPainterPath punta;
-    punta.moveTo(11, 1);
-    punta.lineTo(21, 6);
-    punta.lineTo(12, 12);
-    punta.closeSubpath();
-    p.setPen(Qt::NoPen);
-    p.setBrush(verde);
-    p.drawPath(punta);
-    return pm;
-}
 
 // The two columns fill the left of the screen; counters and faces in a row at the top right, the
 // buttons under them.
@@ -84,7 +65,7 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
 
     BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), 8460, 1680,
                                2415, 1215, Arial(14.25));
-    BottoneRicomincia->setPicture(FrecciaCircolare());
+    BottoneRicomincia->setPicture(pictures::FrecciaCircolare());
     BottoneRicomincia->Click = [this] { RimettiNumeri(); };
 
     // Read by the worksheet of this exercise as the length of its rows; never shown.

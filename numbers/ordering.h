@@ -3,8 +3,8 @@
 // column, the order judged as a whole once the last one is placed. The task stands in the title
 // bar, the one screen of the program that has one.
 
-#include "shell/frame.h"
-#include "shell/globals.h"
+#include "shell/exercise.h"
+#include "core/globals.h"
 
 #include <array>
 #include <memory>

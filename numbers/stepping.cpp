@@ -1,5 +1,5 @@
 #include "numbers/stepping.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 #include "shell/program.h"
 
 #include <algorithm>

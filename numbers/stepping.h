@@ -1,7 +1,7 @@
 #pragma once
 // The twelve screens that add or take away 1, 10, some units or some tens: one class, one table.
 
-#include "shell/frame.h"
+#include "shell/exercise.h"
 
 #include <memory>
 

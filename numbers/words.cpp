@@ -1,6 +1,6 @@
 #include "numbers/words.h"
-#include "shell/lang.h"
-#include "shell/numberwords.h"
+#include "core/lang.h"
+#include "core/numberwords.h"
 #include "shell/program.h"
 
 #include <array>

@@ -2,7 +2,7 @@
 // The two screens that pass between a number's word and its digits: FormScri shows the word and
 // takes the digits, FormScri2 shows the digits and takes the word. One class, one table.
 
-#include "shell/frame.h"
+#include "shell/exercise.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "shell/colori.h"
-#include "shell/forms.h"
-#include "shell/lang.h"
+#include "core/lang.h"
+#include "shell/form.h"
 #include "shell/program.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // The controls of the forms layer: each keeps its Qt look and gives the screens the names,
 // captions and handlers they are written with.
 
-#include "shell/forms.h"
-#include "shell/lang.h"
+#include "core/lang.h"
+#include "shell/form.h"
 #include "shell/program.h"
 
 #include <QAction>

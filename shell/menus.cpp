@@ -1,6 +1,6 @@
 #include "shell/menus.h"
+#include "core/lang.h"
 #include "shell/colori.h"
-#include "shell/lang.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // The start screen and the three menus that lead to every exercise.
 
-#include "shell/forms.h"
+#include "shell/form.h"
 
 #include <memory>
 

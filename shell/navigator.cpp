@@ -1,5 +1,5 @@
 #include "shell/navigator.h"
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "shell/program.h"
 
 #include <QGuiApplication>

@@ -148,4 +148,24 @@ QPixmap Porta() {
     });
 }
 
+// A green arrow turning back on itself: "start again".
+QPixmap FrecciaCircolare() {
+    QPixmap pm(32, 32);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QColor verde(0x00, 0x80, 0x00);
+    p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::FlatCap));
+    p.drawArc(QRectF(5, 5, 22, 22), 100 * 16, 290 * 16);
+    QPainterPath punta;
+    punta.moveTo(11, 1);
+    punta.lineTo(21, 6);
+    punta.lineTo(12, 12);
+    punta.closeSubpath();
+    p.setPen(Qt::NoPen);
+    p.setBrush(verde);
+    p.drawPath(punta);
+    return pm;
+}
+
 } // namespace contarello::pictures

@@ -13,5 +13,6 @@ QPixmap Avvio();            // a green "go" triangle in a circle, for the start 
 QPixmap Stampante();        // a printer, for the print buttons
 QPixmap FoglioNuovo();      // a fresh sheet with a star
 QPixmap Porta();            // an open door, for leaving a worksheet
+QPixmap FrecciaCircolare(); // a green arrow turning back on itself: "start again"
 
 } // namespace contarello::pictures

@@ -1,5 +1,6 @@
 #include "shell/printout.h"
-#include "shell/lang.h"
+#include "core/lang.h"
+#include "shell/form.h"
 #include "shell/program.h"
 
 #include <QBuffer>
@@ -36,15 +37,23 @@ void PaintText(QPainter& p, QPagedPaintDevice& device, const TestoStampato& docu
     }
 }
 
+void PaintScreen(QPainter& p, const QRect& page, QWidget& widget) {
+    // A screen prints what stands under its menu bar, drawn at the page's resolution: its text stays
+    // text and its shapes stay sharp.
+    QRect area = widget.rect();
+    if (auto* form = qobject_cast<Form*>(&widget)) area = form->client()->geometry();
+    if (area.width() <= 0 || area.height() <= 0 || page.isEmpty()) return;
+    const double scale = std::min(double(page.width()) / area.width(), double(page.height()) / area.height());
+    p.save();
+    p.translate(page.left() + (page.width() - area.width() * scale) / 2, page.top());
+    p.scale(scale, scale);
+    widget.render(&p, QPoint(), QRegion(area), QWidget::DrawWindowBackground | QWidget::DrawChildren);
+    p.restore();
+}
+
 void PaintWidget(QPainter& p, QPagedPaintDevice& device, QWidget& widget) {
     const QRect page = device.pageLayout().paintRectPixels(device.logicalDpiX());
-    if (widget.width() <= 0 || widget.height() <= 0) return;
-    const double scale =
-        std::min(double(page.width()) / widget.width(), double(page.height()) / widget.height());
-    p.save();
-    p.scale(scale, scale);
-    widget.render(&p, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
-    p.restore();
+    PaintScreen(p, QRect(QPoint(0, 0), page.size()), widget);
 }
 
 namespace {

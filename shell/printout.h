@@ -26,6 +26,9 @@ struct TestoStampato {
 void PaintText(QPainter& painter, QPagedPaintDevice& device, const TestoStampato& documento);
 
 // Draws the widget as it shows, scaled to the width of the page (or its height, if that is less).
+// Draws a screen, or any widget, into the rectangle of a page: scaled to fit its width (and height)
+// and centred across it.
+void PaintScreen(QPainter& painter, const QRect& page, QWidget& widget);
 void PaintWidget(QPainter& painter, QPagedPaintDevice& device, QWidget& widget);
 
 // Why a PDF could not be written, in words for the adult who asked for it; empty on success.

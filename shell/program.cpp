@@ -1,5 +1,5 @@
 #include "shell/program.h"
-#include "shell/lang.h"
+#include "core/lang.h"
 
 namespace contarello {
 

@@ -2,9 +2,9 @@
 // What the whole program shares: the variables, the services and the navigator, handed to every
 // screen; and the routines every screen may call.
 
-#include "shell/globals.h"
+#include "core/globals.h"
+#include "core/services.h"
 #include "shell/navigator.h"
-#include "shell/services.h"
 
 #include <QString>
 

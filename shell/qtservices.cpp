@@ -157,14 +157,11 @@ void QtPrinter::endDoc() {
 void QtPrinter::printForm(QWidget& form, const QString&) {
     const QString name = takeDocName();
     if (QPrinterInfo::defaultPrinter().isNull()) return;
-    const QPixmap image = form.grab();
     QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
     printer.setDocName(name);
     QPainter p;
     if (!p.begin(&printer)) return;
-    const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
-    const QSize size = image.size().scaled(page.size(), Qt::KeepAspectRatio);
-    p.drawPixmap(QRect(QPoint(0, 0), size), image);
+    PaintWidget(p, printer, form);
     p.end();
 }
 

@@ -2,7 +2,7 @@
 // The real services: the clock-seeded random sequence, the sounds, Qt's message
 // and input boxes, and the system's default printer.
 
-#include "shell/services.h"
+#include "core/services.h"
 
 #include <QObject>
 #include <map>

@@ -3,7 +3,7 @@
 // correction, chosen in rows, columns and print size, and sent to the printer. It opens over the
 // exercise, which waits loaded behind it.
 
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "shell/printout.h"
 
 #include <memory>

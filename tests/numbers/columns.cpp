@@ -2,7 +2,7 @@
 // and tens typed, the carry moved up and the ten changed down.
 
 #include "numbers/columns.h"
-#include "shell/services.h"
+#include "core/scripted.h"
 #include "support/harness.h"
 
 #include <QJsonDocument>

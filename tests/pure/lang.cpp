@@ -1,8 +1,8 @@
 // The number and text functions: every caption of the program is built with them, so a wrong blank
 // or a wrong rounding here is a wrong caption everywhere.
 
-#include "shell/lang.h"
-#include "shell/services.h"
+#include "core/lang.h"
+#include "core/scripted.h"
 
 #include <QTest>
 #include <limits>

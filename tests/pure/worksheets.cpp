@@ -1,3 +1,4 @@
+#include "core/scripted.h"
 #include "worksheets/generators/generators.h"
 
 #include <QtTest>

@@ -1,7 +1,9 @@
 // The drawn controls of the forms layer: figures in their own colours, every mouse button delivered
 // as pressed, and a label dropped for real through the drag filter.
 
-#include "shell/forms.h"
+#include "core/scripted.h"
+#include "driver/recordingprinter.h"
+#include "shell/form.h"
 #include "shell/program.h"
 
 #include <QDropEvent>

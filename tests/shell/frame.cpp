@@ -1,7 +1,7 @@
 // The exercise frame, end to end on "più 1": what the child types, what the screen answers, and
 // what the counters, faces and sounds do.
 
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "support/harness.h"
 
 #include <QJsonDocument>

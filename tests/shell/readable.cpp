@@ -2,11 +2,11 @@
 // the "avanti" arrow plainly on or off, the choice panels inside their screen with the choice in
 // force marked, and boxes wide enough for their title.
 
+#include "app/screens.h"
 #include "shell/colori.h"
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
-#include "app/screens.h"
 #include "support/harness.h"
 
 #include <QApplication>

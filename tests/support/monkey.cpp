@@ -1,6 +1,6 @@
 #include "support/monkey.h"
-#include "shell/lang.h"
-#include "shell/numberwords.h"
+#include "core/lang.h"
+#include "core/numberwords.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

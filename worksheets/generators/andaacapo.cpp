@@ -1,7 +1,7 @@
 // The printer gets the sheet with its long lines broken at the last blank that fits. A line that
 // fits goes out whole; the break knows nothing of exercises or columns.
 
-#include "shell/lang.h"
+#include "core/lang.h"
 #include "worksheets/generators/generators.h"
 
 #include <algorithm>

@@ -3,8 +3,8 @@
 // the worksheet and its correction in one pass over the same draws, so a scripted sequence of draws
 // fixes both texts to the last blank.
 
-#include "shell/globals.h"
-#include "shell/services.h"
+#include "core/globals.h"
+#include "core/services.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 // Reading and placing numbers: FaiScheda1 to FaiScheda8. These are the sheets that draw within the
 // limit set for the exercises, except the tens-and-units and the expressions, which cover 1 to 99.
 
-#include "shell/lang.h"
-#include "shell/numberwords.h"
-#include "worksheets/generators/frame.h"
+#include "core/lang.h"
+#include "core/numberwords.h"
+#include "worksheets/generators/common.h"
 
 #include <algorithm>
 #include <iterator>

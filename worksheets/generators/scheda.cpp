@@ -1,5 +1,5 @@
-#include "shell/lang.h"
-#include "worksheets/generators/frame.h"
+#include "core/lang.h"
+#include "worksheets/generators/common.h"
 
 #include <algorithm>
 

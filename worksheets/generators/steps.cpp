@@ -2,8 +2,8 @@
 // its numbers right-aligned in four characters; a mixed member draws which step to take and writes
 // each exercise at the left of a cell of fixed width.
 
-#include "shell/lang.h"
-#include "worksheets/generators/frame.h"
+#include "core/lang.h"
+#include "worksheets/generators/common.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // Additions and subtractions with an answer line, FaiScheda15 to FaiScheda24. Every draw is bounded
 // so that no number on the sheet goes above 99, whatever the limit set for the exercises.
 
-#include "shell/lang.h"
-#include "worksheets/generators/frame.h"
+#include "core/lang.h"
+#include "worksheets/generators/common.h"
 
 #include <algorithm>
 #include <iterator>

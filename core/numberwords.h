@@ -1,7 +1,7 @@
 #pragma once
 // Whole numbers written as Italian words, in capitals and in one piece: 21 is VENTUNO.
 
-#include "shell/globals.h"
+#include "core/globals.h"
 
 #include <QString>
 

@@ -1,5 +1,5 @@
-#include "shell/frame.h"
-#include "shell/lang.h"
+#include "shell/exercise.h"
+#include "core/lang.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 

@@ -4,7 +4,7 @@
 // and says how it draws a question; the rest is here once.
 
 #include "shell/colori.h"
-#include "shell/forms.h"
+#include "shell/form.h"
 
 namespace contarello {
 

@@ -1,4 +1,4 @@
-#include "shell/services.h"
+#include "core/scripted.h"
 
 #include <QJsonArray>
 
@@ -61,18 +61,6 @@ QString ScriptedDialogs::SaveFile(const QString& title, const QString& defaultNa
               {"filter", filter},
               {"result", result}});
     return result;
-}
-
-void RecordingPrinter::endDoc() {
-    log_.add({{"event", "print"},
-              {"font", font_},
-              {"size", size_},
-              {"text", takeText()},
-              {"name", takeDocName()}});
-}
-
-void RecordingPrinter::printForm(QWidget&, const QString& formName) {
-    log_.add({{"event", "printform"}, {"form", formName}, {"name", takeDocName()}});
 }
 
 } // namespace contarello

@@ -1,4 +1,4 @@
-#include "shell/numberwords.h"
+#include "core/numberwords.h"
 
 #include <array>
 

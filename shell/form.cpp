@@ -1,6 +1,6 @@
 // Screens: their window, their menu bar, and the place and names of their controls.
 
-#include "shell/forms.h"
+#include "shell/form.h"
 #include "shell/program.h"
 
 #include <QAction>
@@ -100,6 +100,10 @@ void Form::registerControl(Control* c, const QString& name) {
     c->object()->setObjectName(name);
     controls_.push_back(c);
     byName_[name] = c;
+}
+
+void Form::PrintForm() {
+    app.printer.printForm(*this, name());
 }
 
 void Form::Show(const QString& formName) {

@@ -1,5 +1,5 @@
-#include "shell/lang.h"
-#include "shell/services.h"
+#include "core/lang.h"
+#include "core/services.h"
 
 #include <cmath>
 #include <limits>
