@@ -72,20 +72,11 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
     Label3 = label(QStringLiteral("Label3"), QString(), 6720, 5040, 495, 375, Arial(8, false));
     Label3->setVisible(false);
 
-    // The panel covers the screen's area under the menu bar, its six choices in a column of large
-    // tiles down the middle, as the limit panel of the other screens has them.
-    const int largo = client()->width() * kTwipsPerPixel, alto = client()->height() * kTwipsPerPixel;
-    EtNumeri = frame(QStringLiteral("EtNumeri"), QStringLiteral("Scegli quanti numeri vuoi ordinare"), 0, 0,
-                     largo, alto, Arial(14.25));
-    EtNumeri->setBackColor(QColor(0xc0, 0xff, 0xff));
-    for (int i = 0; i < 6; ++i) {
-        auto* o = option(indexed(QStringLiteral("Option3D1"), i), QString::number(i + 3), (largo - 2400) / 2,
-                         720 + 900 * i, 2400, 780, Arial(20.25), EtNumeri);
-        o->setAutoFillBackground(false);
-        o->Click = [this, i] { Option3D1_Click(i); };
-        Option3D1.set(i, o);
-    }
-    EtNumeri->raise();
+    // How many numbers to order: six choices in one column, on the same panel as the limit's.
+    EtNumeri =
+        PannelloScelte(QStringLiteral("EtNumeri"), QStringLiteral("Scegli quanti numeri vuoi ordinare"),
+                       QStringLiteral("Option3D1"), {"3", "4", "5", "6", "7", "8"}, 1, Option3D1,
+                       [this](int i) { Option3D1_Click(i); });
 }
 
 void FormOrd::Load() {

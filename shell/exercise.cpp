@@ -120,31 +120,46 @@ void ExerciseForm::RispostaErrata() {
     EtichettaErrati->setCaption(Str(g.Errati));
 }
 
+Frame* ExerciseForm::PannelloScelte(const QString& name, const QString& caption, const QString& optionName,
+                                    const QStringList& scelte, int colonne,
+                                    ControlArray<OptionButton>& opzioni,
+                                    const std::function<void(int)>& scelta) {
+    // The panel covers the screen's area under the menu bar, so nothing behind it shows.
+    const int largo = client()->width() * kTwipsPerPixel, alto = client()->height() * kTwipsPerPixel;
+    Frame* pannello = frame(name, caption, 0, 0, largo, alto, Arial(14.25));
+    pannello->setBackColor(QColor(0xc0, 0xff, 0xff));
+    pannello->setVisible(false);
+    // Large tiles in columns, filled top down, in the middle of the panel, under its caption.
+    constexpr int kLargo = 2400, kSpazio = 480, kSopra = 960;
+    const int righe = (int(scelte.size()) + colonne - 1) / colonne;
+    const int passo = std::min(1560, (alto - kSopra - 240) / std::max(1, righe));
+    const int tessera = std::min(1080, passo - 120);
+    const int sinistra = (largo - colonne * kLargo - (colonne - 1) * kSpazio) / 2;
+    for (int i = 0; i < int(scelte.size()); ++i) {
+        const int col = i / righe, row = i % righe;
+        auto* o = option(indexed(optionName, i), scelte[i], sinistra + col * (kLargo + kSpazio),
+                         kSopra + row * passo, kLargo, tessera, Arial(20.25), pannello);
+        o->setAutoFillBackground(false); // the tiles stand on the panel, not on grey patches
+        o->Click = [scelta, i] { scelta(i); };
+        opzioni.set(i, o);
+    }
+    pannello->raise();
+    return pannello;
+}
+
 void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const QString& menuCaption,
                                                 MenuItem* before) {
-    // The panel covers the screen's area under the menu bar, so nothing behind it shows.
-    CorniceNumeroMassimo =
-        frame(QStringLiteral("CorniceNumeroMassimo"),
-              QStringLiteral("Scegli il numero massimo entro il quale lavorare"), 0, 0,
-              client()->width() * kTwipsPerPixel, client()->height() * kTwipsPerPixel, Arial(14.25));
-    CorniceNumeroMassimo->setBackColor(QColor(0xc0, 0xff, 0xff));
-    CorniceNumeroMassimo->setVisible(false);
-    // Three columns of three large tiles, in the middle of the panel.
-    constexpr int kLargo = 2400, kAlto = 1080, kPasso = 480;
-    const int sinistra = (client()->width() * kTwipsPerPixel - 3 * kLargo - 2 * kPasso) / 2;
-    for (int i = 0; i < 9; ++i) {
-        const int col = i / 3, row = i % 3;
-        auto* o = option(indexed(QStringLiteral("OpzioneNumeroMassimo"), i), QString::number(19 + 10 * i),
-                         sinistra + col * (kLargo + kPasso), 1080 + row * (kAlto + kPasso), kLargo, kAlto,
-                         Arial(20.25), CorniceNumeroMassimo);
-        o->setAutoFillBackground(false); // the tiles stand on the panel, not on grey patches
-        o->Click = [this, i] {
-            g.NumeroMassimo = int16_t(19 + 10 * i);
-            NuovaDomanda();
-            CorniceNumeroMassimo->setVisible(false);
-        };
-        OpzioneNumeroMassimo.set(i, o);
-    }
+    QStringList limiti;
+    for (int i = 0; i < 9; ++i)
+        limiti << QString::number(19 + 10 * i);
+    CorniceNumeroMassimo = PannelloScelte(QStringLiteral("CorniceNumeroMassimo"),
+                                          QStringLiteral("Scegli il numero massimo entro il quale lavorare"),
+                                          QStringLiteral("OpzioneNumeroMassimo"), limiti, 3,
+                                          OpzioneNumeroMassimo, [this](int i) {
+                                              g.NumeroMassimo = int16_t(19 + 10 * i);
+                                              NuovaDomanda();
+                                              CorniceNumeroMassimo->setVisible(false);
+                                          });
     MenuItem* item = menu(menuName, menuCaption, nullptr, before);
     item->Click = [this] {
         MostraNumeroMassimo();

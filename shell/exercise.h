@@ -96,6 +96,11 @@ protected:
     // waits) or, with the button hidden, the next question at once.
     void RispostaEsattaPoiAvanti(const std::function<void()>& inAttesa = {});
 
+    // A panel of choices lying over the whole screen, hidden until shown: its caption, then large
+    // option tiles in columns, each choice handed to scelta with its index.
+    Frame* PannelloScelte(const QString& name, const QString& caption, const QString& optionName,
+                          const QStringList& scelte, int colonne, ControlArray<OptionButton>& opzioni,
+                          const std::function<void(int)>& scelta);
     // The limit panel, opened by a menu item of the given name; its options set the limit from 19
     // to 99 and draw a new question.
     void AggiungiCorniceNumeroMassimo(const QString& menuName, const QString& menuCaption,

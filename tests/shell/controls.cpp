@@ -30,6 +30,7 @@ public:
     using Form::button;
     using Form::label;
     using Form::shape;
+    void menuItem(const char* name, const char* caption) { menu(name, caption); }
 };
 
 struct Figura {
@@ -151,6 +152,30 @@ private slots:
         QDropEvent drop(QPointF(5, 5), Qt::MoveAction, data.get(), Qt::LeftButton, {});
         QCoreApplication::sendEvent(place, &drop);
         QCOMPARE(dropped, QStringLiteral("Lu1"));
+    }
+
+    // The screen under its menu bar goes on the page across its printable width, centred.
+    void printFormPutsTheScreenOnThePage() {
+        Services s;
+        Board board(s.app);
+        board.setBackColor(QColor(0x00, 0x00, 0xff));
+        board.menuItem("MenuAzzera", "Azzera conteggio");
+        board.show();
+        board.PrintForm();
+        const QImage page = s.printer.lastPage();
+        QVERIFY(!page.isNull());
+        int left = page.width(), right = -1, top = page.height();
+        for (int y = 0; y < page.height(); ++y)
+            for (int x = 0; x < page.width(); ++x)
+                if (page.pixelColor(x, y) == QColor(0x00, 0x00, 0xff)) {
+                    left = std::min(left, x), right = std::max(right, x), top = std::min(top, y);
+                }
+        QVERIFY(right > left);
+        QVERIFY(std::abs(left - (page.width() - 1 - right)) <= 2); // centred
+        QVERIFY(right - left > page.width() * 3 / 4);              // across the printable width
+        // No menu bar on paper: the screen's colour starts where the page's printable area does.
+        QVERIFY(top <= 30);
+        QCOMPARE(s.log.take().back().value("event").toString(), QStringLiteral("printform"));
     }
 
     void anAutoSizedLabelFollowsItsCaption() {
