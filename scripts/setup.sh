@@ -9,6 +9,7 @@ PACKAGES=(
     qt6-translations-l10n             # "Sì", "No", "Annulla" in Qt's own boxes
     fonts-liberation2                 # the screens are laid out for Arial's metrics
     libbenchmark-dev                  # the benchmark
+    clang libclang-rt-14-dev          # the fuzz targets: clang with its libFuzzer runtime
 )
 
 missing=()
