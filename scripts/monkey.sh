@@ -9,6 +9,8 @@ total="${1:-1000000}"
 first="${2:-1000}"
 jobs="$(nproc)"
 export QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+# A run of one seed takes far longer than QtTest lets one test function run by default.
+export QTEST_FUNCTION_TIMEOUT=$((24 * 3600 * 1000))
 export LSAN_OPTIONS="suppressions=$PWD/../tests/sanitizers/lsan.supp:print_suppressions=0"
 pids=()
 for ((i = 0; i < jobs; i++)); do
