@@ -1,20 +1,41 @@
 // The program: real services, the table of screens, and Main.
 
 #include "app/paths.h"
+#include "app/screens.h"
 #include "shell/firstpaint.h"
 #include "shell/form.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
-#include "app/screens.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTimer>
 
 using namespace contarello;
 
+namespace {
+
+// The scale of the screens: "--scale F" on the command line, else CONTARELLO_SCALE, else what fits
+// the display. A value that isn't a number is passed over.
+double ScalaScelta(const QStringList& args) {
+    bool ok = false;
+    const int at = int(args.indexOf(QStringLiteral("--scale")));
+    if (at >= 0 && at + 1 < args.size()) {
+        const double f = args[at + 1].toDouble(&ok);
+        if (ok && f > 0) return f;
+    }
+    const double f = qEnvironmentVariable("CONTARELLO_SCALE").toDouble(&ok);
+    if (ok && f > 0) return f;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? ChooseScaleFactor(screen->availableGeometry().size()) : 1.0;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     PrepareToolkit(application);
+    SetScaleFactor(ScalaScelta(QCoreApplication::arguments()));
     const ProgramFiles files = FindProgramFiles(QCoreApplication::applicationDirPath());
     // The install check: where the sounds and their module were found, and nothing else.
     if (qEnvironmentVariableIsSet("CONTARELLO_CHECK_FILES")) return ReportProgramFiles(files);

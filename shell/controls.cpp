@@ -54,7 +54,7 @@ using MouseHandler = std::function<void(int button, int shift, int x, int y)>;
 void deliver(const MouseHandler& handler, const QMouseEvent* e) {
     if (!handler) return;
     const QPoint at = e->position().toPoint();
-    handler(vbButton(e->button()), vbShift(e->modifiers()), at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel);
+    handler(vbButton(e->button()), vbShift(e->modifiers()), twipsOf(at.x()), twipsOf(at.y()));
 }
 
 // Keys whose codes aren't their text: what KeyPress sees (0 for none) and what KeyUp sees.
@@ -355,7 +355,8 @@ void CommandButton::paintEvent(QPaintEvent*) {
                                .boundingRect(area, Qt::AlignCenter | Qt::TextWordWrap, caption_)
                                .height());
         const QSize room(area.width(), area.height() - textHeight);
-        const QSize ps = picture_.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture_.size());
+        const QSize natural = picture_.deviceIndependentSize().toSize();
+        const QSize ps = natural.scaled(room, Qt::KeepAspectRatio).boundedTo(natural);
         const int top = area.top() + (area.height() - ps.height() - textHeight) / 2;
         const QRect pic(area.left() + (area.width() - ps.width()) / 2, top, ps.width(), ps.height());
         p.drawPixmap(pic, isEnabled() ? picture_ : disabledPicture_);
@@ -640,7 +641,7 @@ bool Shape::userClick() {
 
 QRectF Shape::figureRect() const {
     // The edge lies inside the box, so a figure is never cut at its sides.
-    const double inset = borderWidth_ / 2.0;
+    const double inset = px(borderWidth_) / 2.0;
     QRectF r = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
     if (shape_ == Square || shape_ == Circle || shape_ == RoundedSquare) {
         const double d = std::min(r.width(), r.height());
@@ -672,7 +673,7 @@ void Shape::paintEvent(QPaintEvent*) {
     }
     if (backStyle_ == Opaque && backColor_.isValid()) p.fillPath(figure, backColor_);
     if (fillStyle_ == Solid) p.fillPath(figure, fill_);
-    if (borderWidth_ > 0) p.strokePath(figure, QPen(border_, borderWidth_));
+    if (borderWidth_ > 0) p.strokePath(figure, QPen(border_, px(borderWidth_)));
 }
 
 void Shape::mousePressEvent(QMouseEvent* e) {
@@ -693,7 +694,8 @@ Image::Image(QWidget* parent) : QLabel(parent) {
 // ---- Line ----
 
 Line::Line(QWidget* parent, int x1, int y1, int x2, int y2, QColor colour, int widthPx)
-    : QWidget(parent), colour_(colour), width_(widthPx) {
+    : QWidget(parent), colour_(colour), width_(std::max(1, int(std::lround(px(widthPx))))) {
+    widthPx = width_;
     const QPoint a(tw(x1), tw(y1)), b(tw(x2), tw(y2));
     const QRect box = QRect(a, b).normalized().adjusted(-widthPx, -widthPx, widthPx, widthPx);
     setGeometry(box);

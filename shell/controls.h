@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QWidget>
+#include <cmath>
 #include <functional>
 #include <map>
 #include <vector>
@@ -31,8 +32,24 @@ struct Modulo1;
 class Form;
 
 constexpr int kTwipsPerPixel = 15;
+
+// One scale factor for the whole program, applied where twips become pixels: geometry, fonts, line
+// widths and pictures grow together, so every screen keeps its proportions. 1 unless main sets it.
+double ScaleFactor();
+void SetScaleFactor(double factor);
+// The factor that lets the largest screen fill about 85 % of the available area, never below 1.
+double ChooseScaleFactor(QSize available);
+
+// Twips to pixels, and back, at the program's scale.
 inline int tw(int twips) {
-    return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel;
+    return int(std::lround(twips * ScaleFactor() / kTwipsPerPixel));
+}
+inline int twipsOf(double pixels) {
+    return int(std::lround(pixels * kTwipsPerPixel / ScaleFactor()));
+}
+// A width in pixels as the screens give it at scale 1.
+inline double px(double pixels) {
+    return pixels * ScaleFactor();
 }
 
 QFont Arial(double points, bool bold = true);

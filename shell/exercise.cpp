@@ -125,7 +125,7 @@ Frame* ExerciseForm::PannelloScelte(const QString& name, const QString& caption,
                                     ControlArray<OptionButton>& opzioni,
                                     const std::function<void(int)>& scelta) {
     // The panel covers the screen's area under the menu bar, so nothing behind it shows.
-    const int largo = client()->width() * kTwipsPerPixel, alto = client()->height() * kTwipsPerPixel;
+    const int largo = twipsOf(client()->width()), alto = twipsOf(client()->height());
     Frame* pannello = frame(name, caption, 0, 0, largo, alto, Arial(14.25));
     pannello->setBackColor(QColor(0xc0, 0xff, 0xff));
     pannello->setVisible(false);

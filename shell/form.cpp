@@ -7,20 +7,42 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QShortcut>
 #include <cmath>
 
 namespace contarello {
 
+namespace {
+double gScale = 1;
+// The largest screen of the program, FormOrd's width and the menus' height with a menu bar, in
+// twips: the factor is chosen so that it fits.
+constexpr int kLargestWidth = 12600, kLargestHeight = 8400;
+} // namespace
+
+double ScaleFactor() {
+    return gScale;
+}
+void SetScaleFactor(double factor) {
+    gScale = std::isfinite(factor) ? std::clamp(factor, 0.25, 8.0) : 1.0;
+}
+
+double ChooseScaleFactor(QSize available) {
+    if (available.isEmpty()) return 1;
+    const double wide = 0.85 * available.width() / (double(kLargestWidth) / kTwipsPerPixel);
+    const double high = 0.85 * available.height() / (double(kLargestHeight) / kTwipsPerPixel);
+    return std::max(1.0, std::min(wide, high));
+}
+
 QFont Arial(double points, bool bold) {
     QFont f(QStringLiteral("Arial"));
-    f.setPointSizeF(points);
+    f.setPointSizeF(points * gScale);
     f.setBold(bold);
     return f;
 }
 
 QFont SansSerif(double points, bool bold) {
     QFont f(QStringLiteral("MS Sans Serif"));
-    f.setPointSizeF(points);
+    f.setPointSizeF(points * gScale);
     f.setBold(bold);
     return f;
 }
@@ -53,8 +75,31 @@ Form::Form(Program& program, int widthTwips, int heightTwips)
       widthTwips_(widthTwips), heightTwips_(heightTwips) {
     setWindowTitle(kTitolo);
     setFixedSize(tw(widthTwips), tw(heightTwips));
-    client_ = new QWidget(this);
+    // The screen itself stands on a page of its own size: in full screen the page keeps its size
+    // in the middle, on a backdrop of the screen's colour.
+    page_ = new QWidget(this);
+    page_->setGeometry(0, 0, width(), height());
+    client_ = new QWidget(page_);
     client_->setGeometry(0, 0, width(), height());
+    auto* pieno = new QShortcut(QKeySequence(Qt::Key_F11), this);
+    pieno->setContext(Qt::WindowShortcut);
+    connect(pieno, &QShortcut::activated, this, &Form::toggleFullScreen);
+}
+
+void Form::toggleFullScreen() {
+    if (isFullScreen()) {
+        showNormal();
+        setFixedSize(page_->size());
+    } else {
+        setMinimumSize(0, 0);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        showFullScreen();
+    }
+}
+
+void Form::resizeEvent(QResizeEvent* e) {
+    QWidget::resizeEvent(e);
+    page_->move(std::max(0, (width() - page_->width()) / 2), std::max(0, (height() - page_->height()) / 2));
 }
 
 Form::~Form() = default;
@@ -173,7 +218,7 @@ Image* Form::image(const QString& name, const QPixmap& picture, int left, int to
 
 MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* parentItem, MenuItem* before) {
     if (!menuBar_) {
-        menuBar_ = new QMenuBar(this);
+        menuBar_ = new QMenuBar(page_);
         QPalette p = menuBar_->palette();
         p.setColor(QPalette::Window, QColor(0xf0, 0xf0, 0xf0));
         menuBar_->setPalette(p);
@@ -185,9 +230,11 @@ MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* pare
     holder->insertAction(before ? before->action() : nullptr, a);
     if (!parentItem) {
         // The bar has its height once it holds an item; the controls stand below it.
-        const int h = menuBar_->sizeHint().height();
-        menuBar_->setGeometry(0, 0, width(), h);
-        client_->setGeometry(0, h, width(), height() - h);
+        // A bar of 315 twips at every scale, so the controls under it keep their places in proportion;
+        // taller only if its font ever needs it.
+        const int h = std::max(tw(315), menuBar_->sizeHint().height());
+        menuBar_->setGeometry(0, 0, page_->width(), h);
+        client_->setGeometry(0, h, page_->width(), page_->height() - h);
     }
     auto* item = new MenuItem(this, a);
     registerControl(item, name);

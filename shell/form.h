@@ -86,9 +86,12 @@ protected:
     static QString indexed(const QString& name, int i) { return name + u'(' + QString::number(i) + u')'; }
 
     bool event(QEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 
 private:
+    void toggleFullScreen();
+    QWidget* page_;
     QWidget* client_;
     QMenuBar* menuBar_ = nullptr;
     std::vector<Control*> controls_;

@@ -1,5 +1,8 @@
 #include "shell/pictures.h"
 
+#include "shell/controls.h"
+
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -9,11 +12,17 @@ namespace {
 
 constexpr int kSize = 32;
 
+// Drawn at the size the screen shows it, and at the display's own density, so a picture stays sharp
+// at any scale.
 template <class Draw> QPixmap paint(Draw draw) {
-    QPixmap pm(kSize, kSize);
+    const double dpr = qApp ? qApp->devicePixelRatio() : 1.0;
+    const double side = kSize * ScaleFactor();
+    QPixmap pm(int(std::ceil(side * dpr)), int(std::ceil(side * dpr)));
+    pm.setDevicePixelRatio(dpr);
     pm.fill(Qt::transparent);
     QPainter p(&pm);
     p.setRenderHint(QPainter::Antialiasing);
+    p.scale(ScaleFactor(), ScaleFactor());
     draw(p);
     return pm;
 }
@@ -150,22 +159,19 @@ QPixmap Porta() {
 
 // A green arrow turning back on itself: "start again".
 QPixmap FrecciaCircolare() {
-    QPixmap pm(32, 32);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    const QColor verde(0x00, 0x80, 0x00);
-    p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::FlatCap));
-    p.drawArc(QRectF(5, 5, 22, 22), 100 * 16, 290 * 16);
-    QPainterPath punta;
-    punta.moveTo(11, 1);
-    punta.lineTo(21, 6);
-    punta.lineTo(12, 12);
-    punta.closeSubpath();
-    p.setPen(Qt::NoPen);
-    p.setBrush(verde);
-    p.drawPath(punta);
-    return pm;
+    return paint([](QPainter& p) {
+        const QColor verde(0x00, 0x80, 0x00);
+        p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::FlatCap));
+        p.drawArc(QRectF(5, 5, 22, 22), 100 * 16, 290 * 16);
+        QPainterPath punta;
+        punta.moveTo(11, 1);
+        punta.lineTo(21, 6);
+        punta.lineTo(12, 12);
+        punta.closeSubpath();
+        p.setPen(Qt::NoPen);
+        p.setBrush(verde);
+        p.drawPath(punta);
+    });
 }
 
 } // namespace contarello::pictures

@@ -41,7 +41,8 @@ void PaintScreen(QPainter& p, const QRect& page, QWidget& widget) {
     // A screen prints what stands under its menu bar, drawn at the page's resolution: its text stays
     // text and its shapes stay sharp.
     QRect area = widget.rect();
-    if (auto* form = qobject_cast<Form*>(&widget)) area = form->client()->geometry();
+    if (auto* form = qobject_cast<Form*>(&widget))
+        area = QRect(form->client()->mapTo(form, QPoint(0, 0)), form->client()->size());
     if (area.width() <= 0 || area.height() <= 0 || page.isEmpty()) return;
     const double scale = std::min(double(page.width()) / area.width(), double(page.height()) / area.height());
     p.save();

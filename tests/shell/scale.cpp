@@ -1,0 +1,88 @@
+// The one scale of the program: the factor chosen for a display, and a screen at factor 2 laid out
+// exactly as at factor 1, twice as large.
+
+#include "shell/form.h"
+#include "shell/program.h"
+#include "support/harness.h"
+
+#include <QTest>
+
+using namespace contarello;
+using contarello::test::Harness;
+
+namespace {
+
+// Every control's place on the screen, and the screen's own size, with its pictures' sizes.
+QMap<QString, QRect> Places(const QString& screen, double factor) {
+    SetScaleFactor(factor);
+    Harness h;
+    h.run(QStringLiteral(R"({"show": "%1"})").arg(screen));
+    Form* form = h.engine.program().nav.find(screen);
+    QMap<QString, QRect> places;
+    places[screen] = form->rect();
+    for (Control* c : form->controls())
+        if (QWidget* w = c->widget()) places[c->name()] = QRect(w->mapTo(form, QPoint(0, 0)), w->size());
+    SetScaleFactor(1);
+    return places;
+}
+
+} // namespace
+
+class ScaleTest : public QObject {
+    Q_OBJECT
+private slots:
+    void factorForTheDisplay_data() {
+        QTest::addColumn<QSize>("available");
+        QTest::addColumn<double>("factor");
+        QTest::newRow("small laptop: never below 1") << QSize(1024, 600) << 1.0;
+        QTest::newRow("1280x800: the height binds") << QSize(1280, 770) << 0.85 * 770 / 560;
+        QTest::newRow("1920x1080: the height binds") << QSize(1920, 1050) << 0.85 * 1050 / 560;
+        QTest::newRow("portrait: the width binds") << QSize(1080, 1890) << 0.85 * 1080 / 840;
+        QTest::newRow("3840x2160") << QSize(3840, 2130) << 0.85 * 2130 / 560;
+        QTest::newRow("no screen") << QSize() << 1.0;
+    }
+    void factorForTheDisplay() {
+        QFETCH(QSize, available);
+        QFETCH(double, factor);
+        QVERIFY(qAbs(ChooseScaleFactor(available) - factor) < 1e-9);
+    }
+
+    // Geometry and the menu bar grow together: nothing is placed apart from the rest.
+    void twiceAsLargeAtFactorTwo_data() {
+        QTest::addColumn<QString>("screen");
+        QTest::newRow("a question screen") << "Form1";
+        QTest::newRow("the column screen") << "FormCol1";
+        QTest::newRow("the worksheet screen") << "formStampa";
+    }
+    void twiceAsLargeAtFactorTwo() {
+        QFETCH(QString, screen);
+        const QMap<QString, QRect> one = Places(screen, 1), two = Places(screen, 2);
+        QCOMPARE(two.keys(), one.keys());
+        for (const QString& name : one.keys()) {
+            const QRect a = one[name], b = two[name];
+            // The menu bar's height follows its font, so a control may sit a pixel or two off.
+            const bool close = qAbs(b.x() - 2 * a.x()) <= 2 && qAbs(b.y() - 2 * a.y()) <= 3 &&
+                               qAbs(b.width() - 2 * a.width()) <= 2 && qAbs(b.height() - 2 * a.height()) <= 2;
+            QVERIFY2(close, qPrintable(QStringLiteral("%1: %2,%3 %4x%5 at 1, %6,%7 %8x%9 at 2")
+                                           .arg(name)
+                                           .arg(a.x())
+                                           .arg(a.y())
+                                           .arg(a.width())
+                                           .arg(a.height())
+                                           .arg(b.x())
+                                           .arg(b.y())
+                                           .arg(b.width())
+                                           .arg(b.height())));
+        }
+    }
+
+    void textAndPicturesGrowWithTheFactor() {
+        SetScaleFactor(2);
+        const QFont big = Arial(18);
+        SetScaleFactor(1);
+        QCOMPARE(big.pointSizeF(), Arial(18).pointSizeF() * 2);
+    }
+};
+
+QTEST_MAIN(ScaleTest)
+#include "scale.moc"
