@@ -64,7 +64,10 @@ bool Monkey::step() {
         before = execute({{"dump", true}});
         if (!check(before)) return false;
     }
-    if (chance(0.08) && !checkAnswer(before)) return false;
+    if (chance(0.08)) {
+        if (!checkAnswer(before)) return false;
+        before = execute({{"dump", true}}); // the answer brought the next question
+    }
     const QJsonObject action = pickAction(before);
     if (action.isEmpty()) return true;
     const QJsonObject answer = execute(action);
