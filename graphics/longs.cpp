@@ -109,6 +109,8 @@ CommandButton* LongsForm::BottoneMateriale(const char* name, const char* caption
     CommandButton* b =
         button(QString::fromUtf8(name), QString::fromUtf8(caption), left, top, 975, 495, Arial(9.75));
     b->setBackColor(colour);
+    // The caption reads on the button's own colour, live or off.
+    b->setForeColor(colour.blue() > colour.red() ? Qt::white : Qt::black);
     return b;
 }
 
