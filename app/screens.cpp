@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/longs.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -62,6 +63,11 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // longs and units: additions and subtractions
+        {"FormGraf", Member<LongsAddForm, FindLongsAddMember>},
+        {"FormGraf1", Member<LongsAddForm, FindLongsAddMember>},
+        {"FormGrafMeno", Member<LongsSubForm, FindLongsSubMember>},
+        {"FormGrafMeno1", Member<LongsSubForm, FindLongsSubMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
     };
