@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/abacus_ops.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -62,6 +63,11 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // additions and subtractions on the abacus
+        {"Form99c", Member<AbacoSommaForm, FindAbacoSommaMember>},
+        {"Form99c1", Member<AbacoSommaForm, FindAbacoSommaMember>},
+        {"Form99d", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
+        {"Form99d1", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
     };
