@@ -13,11 +13,11 @@ namespace {
 // The counters and the faces at the top right, "Ricomincia" and "avanti" under the instruction.
 FrameLayout LayoutDifferenza() {
     FrameLayout l;
-    l.label1 = {6300, 960, 1095, 375};
-    l.esatti = {7440, 900, 1095, 495};
-    l.label2 = {6300, 1560, 1095, 375};
-    l.errati = {7440, 1500, 1095, 495};
-    l.facce = {8580, 1020, 855, 750};
+    l.label1 = {6600, 960, 1095, 375};
+    l.esatti = {7620, 900, 975, 495};
+    l.label2 = {6600, 1560, 1095, 375};
+    l.errati = {7620, 1500, 975, 495};
+    l.facce = {8640, 1020, 855, 750};
     l.avanti = {7845, 4860, 1455, 1215};
     return l;
 }
@@ -56,7 +56,7 @@ AbacoDifferenzaForm::AbacoDifferenzaForm(Program& program, const AbacoOpMember& 
         if (TogliUnita()) Controlla();
     };
     Label4 = label(QStringLiteral("Label4"), QString(), 2400, 1365, 735, 495, Arial(18));
-    Label3 = label(QStringLiteral("Label3"), QString(), 5820, 1365, 735, 495, Arial(18));
+    Label3 = label(QStringLiteral("Label3"), QString(), 5760, 1365, 735, 495, Arial(18));
 
     Label5 = label(QStringLiteral("Label5"), QString(), 6195, 2730, 3105, 1905, Arial(11.25));
     Label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
