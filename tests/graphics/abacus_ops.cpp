@@ -254,6 +254,38 @@ private slots:
         QVERIFY(h.visible("Text1"));
     }
 
+    // With "avanti" hidden a right result brings the next question at once, the box closed and usable.
+    void withoutAvanti_data() {
+        QTest::addColumn<QString>("form");
+        QTest::newRow("Form99c") << "Form99c";
+        QTest::newRow("Form99d") << "Form99d";
+    }
+    void withoutAvanti() {
+        QFETCH(QString, form);
+        Harness h;
+        h.run(R"({"show": "FormMenu"})");
+        h.run(R"J({"click": "Option1(0)"})J");
+        h.rnd({0.0, v(80, 88), v(0, 80), 0.0, v(42, 88), v(20, 42)}); // 5 + 85 = 90, then 52 - 27 = 25
+        h.run(QStringLiteral(R"({"show": "%1"})").arg(form));
+        const bool somma = form == "Form99c";
+        if (somma) {
+            premi(h, "Bot_u", 5);
+            premi(h, "Bot_da", 8);
+            premi(h, "Bot_u", 5);
+            clicca(h, "BottoneCambio");
+        } else {
+            clicca(h, "Bot_da", 9);
+            clicca(h, "Command1", 9);
+            clicca(h, "Bot_u", 5);
+        }
+        h.answer("Text1", somma ? "90" : "5");
+        QCOMPARE(h.global("Esatti"), 1);
+        QCOMPARE(h.global("Meta"), 52);
+        QVERIFY(!h.visible("Text1") && h.enabled("Text1") && !h.visible("BottoneAvanti"));
+        QCOMPARE(campo(h, "Fase"), 1);
+        QCOMPARE(unita(h), QString(19, '0'));
+    }
+
     void worksheetNumbers_data() {
         QTest::addColumn<QString>("form");
         QTest::addColumn<int>("scheda");
