@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/abacus_ops.h"
 #include "graphics/longs.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
@@ -68,6 +69,11 @@ std::vector<FormEntry> FormTable() {
         {"FormGraf1", Member<LongsAddForm, FindLongsAddMember>},
         {"FormGrafMeno", Member<LongsSubForm, FindLongsSubMember>},
         {"FormGrafMeno1", Member<LongsSubForm, FindLongsSubMember>},
+        // additions and subtractions on the abacus
+        {"Form99c", Member<AbacoSommaForm, FindAbacoSommaMember>},
+        {"Form99c1", Member<AbacoSommaForm, FindAbacoSommaMember>},
+        {"Form99d", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
+        {"Form99d1", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
     };

@@ -1,0 +1,223 @@
+#include "graphics/abacus_ops.h"
+#include "core/lang.h"
+#include "shell/program.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace contarello {
+
+namespace {
+
+// A draw that came out unfit is drawn again, but never without end: a generator stuck on unfit
+// values must not freeze the screen. Past this many attempts the nearest fit value is taken.
+constexpr int kTentativi = 20;
+
+const QColor kRosso(0xff, 0x00, 0x00);
+const QColor kBlu(0x00, 0x00, 0xff);
+
+constexpr AbacoOpMember kSomme[] = {
+    {"Form99c", 15, true},
+    {"Form99c1", 16, false},
+};
+constexpr AbacoOpMember kDifferenze[] = {
+    {"Form99d", 17, true},
+    {"Form99d1", 18, false},
+};
+
+template <size_t N> const AbacoOpMember* trova(const AbacoOpMember (&table)[N], const QString& form) {
+    for (const AbacoOpMember& m : table)
+        if (form == QLatin1String(m.form)) return &m;
+    return nullptr;
+}
+
+// A red arrow across the button: towards the tens wire, or away from it towards the units.
+QPixmap FrecciaRossa(bool aSinistra) {
+    QPixmap pm(32, 32);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    if (aSinistra) p.setTransform(QTransform(-1, 0, 0, 1, 32, 0));
+    QPainterPath freccia;
+    freccia.moveTo(2, 12);
+    freccia.lineTo(18, 12);
+    freccia.lineTo(18, 5);
+    freccia.lineTo(30, 16);
+    freccia.lineTo(18, 27);
+    freccia.lineTo(18, 20);
+    freccia.lineTo(2, 20);
+    freccia.closeSubpath();
+    p.setPen(QPen(QColor(0x80, 0x00, 0x00), 1.2));
+    p.setBrush(kRosso);
+    p.drawPath(freccia);
+    return pm;
+}
+
+} // namespace
+
+OperazioneAbaco TiraConCambio(Random& rnd, int numeroMassimo) {
+    OperazioneAbaco op;
+    // Under a limit of 21 the sum would fall below 10; the smallest sum stands in for it.
+    op.Meta = int16_t(Draw(rnd, std::max(numeroMassimo - 11, 1), 10));
+    op.Termine1 = int16_t(Draw(rnd, op.Meta - 10, 5));
+    op.Termine2 = int16_t(op.Meta - op.Termine1);
+    return op;
+}
+
+OperazioneAbaco TiraSenzaCambio(Random& rnd) {
+    // A Termine1 above 0 with no digit above Meta's needs a digit of Meta of 2 or more: 0, 1, 10 and
+    // 11 have none, and are drawn again.
+    int D = 2, U = 5;
+    for (int i = 0; i < kTentativi; ++i) {
+        const int d = Draw(rnd, 10), u = Draw(rnd, 10);
+        if (d >= 2 || u >= 2) {
+            D = d;
+            U = u;
+            break;
+        }
+    }
+    OperazioneAbaco op;
+    op.Meta = int16_t(10 * D + U);
+    op.Termine1 = 0;
+    for (int i = 0; i < kTentativi && op.Termine1 == 0; ++i)
+        op.Termine1 = int16_t(10 * Draw(rnd, D) + Draw(rnd, U));
+    if (op.Termine1 == 0) op.Termine1 = int16_t(D >= 2 ? 10 * (D - 1) : U - 1);
+    op.Termine2 = int16_t(op.Meta - op.Termine1);
+    return op;
+}
+
+const AbacoOpMember* FindAbacoSommaMember(const QString& form) {
+    return trova(kSomme, form);
+}
+
+const AbacoOpMember* FindAbacoDifferenzaMember(const QString& form) {
+    return trova(kDifferenze, form);
+}
+
+namespace {
+FrameOptions Opzioni(FrameLayout layout) {
+    FrameOptions o;
+    o.captions = kMenuLargo;
+    o.layout = layout;
+    return o;
+}
+} // namespace
+
+AbacoOpForm::AbacoOpForm(Program& program, const AbacoOpMember& member, int widthTwips, int heightTwips,
+                         FrameLayout layout)
+    : ExerciseForm(program, Variante::B, member.numeroScheda, widthTwips, heightTwips, Opzioni(layout)),
+      member_(member) {}
+
+void AbacoOpForm::CreaAbaco(const Geometria& geo) {
+    auto filo = [&](int i, int x) {
+        FiloAbaco.set(i, line(indexed(QStringLiteral("FiloAbaco"), i), x, geo.filoAlto, x, geo.filoBasso,
+                              Qt::black, 3));
+    };
+    filo(1, 1950);
+    if (member_.cambio) {
+        filo(2, 5475);
+        filo(0, 5055);
+    } else {
+        filo(2, 5265);
+    }
+    auto pallina = [&](ControlArray<Shape>& array, const char* name, int i, int left, int top, int width,
+                       QColor colour) {
+        Shape* s = shape(indexed(QLatin1String(name), i), Shape::Circle, left, top, width, 435);
+        s->setBackStyle(Shape::Opaque);
+        s->setBackColor(colour);
+        s->setFillStyle(Shape::Solid);
+        s->setFillColor(colour);
+        s->setBorderColor(colour);
+        s->setVisible(false);
+        array.set(i, s);
+    };
+    for (int i = 0; i < 9; ++i)
+        pallina(pal_da, "pal_da", i, i < 2 ? 1680 : 1695, geo.daTop - 420 * i, 540, kRosso);
+    if (member_.cambio) {
+        for (int i = 0; i < 19; ++i) {
+            int left = 5250, top = geo.uTop - 420 * i;
+            if (i == 9) top = geo.u9Top;
+            if (i >= 10) left = 4830, top = geo.uTop - 420 * (i - 10);
+            if (i == 18 && geo.u18Top) top = geo.u18Top;
+            pallina(pal_u, "pal_u", i, left, top, 435, kBlu);
+        }
+    } else {
+        for (int i = 0; i < 9; ++i)
+            pallina(pal_u, "pal_u", i, 5040, geo.uTop - 420 * i, 435, kBlu);
+    }
+    if (member_.cambio) {
+        const int left = geo.frecciaASinistra ? 2835 : 2730, top = geo.frecciaASinistra ? 3150 : 3045;
+        BottoneCambio = button(QStringLiteral("BottoneCambio"), QStringLiteral("Cambio"), left, top, 1485,
+                               960, Arial(12));
+        BottoneCambio->setPicture(FrecciaRossa(geo.frecciaASinistra));
+        BottoneCambio->Click = [this] { BottoneCambio_Click(); };
+    }
+}
+
+void AbacoOpForm::Load() {
+    ExerciseForm::Load();
+    BottoneAvanti->setVisible(g.AttendiBottone != False);
+    AzzeraConteggio();
+    NuovaDomanda();
+}
+
+QJsonObject AbacoOpForm::fields() const {
+    return {{"NumeroUnita", NumeroUnita}, {"NumeroDecine", NumeroDecine}, {"Fase", Fase}};
+}
+
+void AbacoOpForm::MostraPalline() {
+    // The beads always stand from the bottom of their wire up, as many as counted: after a change the
+    // units left over come down the first wire, so a bead taken off is always one that shows.
+    for (auto& [i, s] : pal_da)
+        s->setVisible(i < NumeroDecine);
+    for (auto& [i, s] : pal_u)
+        s->setVisible(i < NumeroUnita);
+    Label3->setCaption(Str(NumeroUnita));
+    Label4->setCaption(Str(NumeroDecine));
+}
+
+void AbacoOpForm::AzzeraAbaco() {
+    Fase = 1;
+    NumeroUnita = 0;
+    NumeroDecine = 0;
+    MostraPalline();
+    if (BottoneCambio) BottoneCambio->setEnabled(true);
+}
+
+bool AbacoOpForm::AggiungiDecina() {
+    if (NumeroDecine >= 9) return false;
+    ++NumeroDecine;
+    MostraPalline();
+    return true;
+}
+
+bool AbacoOpForm::TogliDecina() {
+    if (NumeroDecine <= 0) return false;
+    --NumeroDecine;
+    MostraPalline();
+    return true;
+}
+
+bool AbacoOpForm::AggiungiUnita() {
+    if (NumeroUnita >= LimiteUnita()) return false;
+    ++NumeroUnita;
+    MostraPalline();
+    return true;
+}
+
+bool AbacoOpForm::TogliUnita() {
+    if (NumeroUnita <= 0) return false;
+    --NumeroUnita;
+    MostraPalline();
+    return true;
+}
+
+void AbacoOpForm::ApriRisultato() {
+    Text1->setText(QString());
+    Text1->setVisible(true);
+    if (Text1->isEnabled()) Text1->SetFocus();
+}
+
+} // namespace contarello

@@ -1,0 +1,131 @@
+#pragma once
+// Additions and subtractions carried out on one abacus: the child threads the first number in
+// beads, adds or takes off the second, changes ten units into a ten or a ten into ten units where
+// the numbers ask for it, and writes the result. Four screens, two operations, each with and
+// without the change.
+
+#include "shell/exercise.h"
+
+namespace contarello {
+
+class Random;
+
+// The numbers of one operation: the sum or the first number of a subtraction, and its two parts.
+struct OperazioneAbaco {
+    int16_t Meta = 0;
+    int16_t Termine1 = 0;
+    int16_t Termine2 = 0;
+};
+
+// The draw of the screens with the change: Meta from 10 to the limit less 2, Termine1 from 5 to
+// Meta less 6. The units are free, so a change is due only on some questions.
+OperazioneAbaco TiraConCambio(Random& rnd, int numeroMassimo);
+// The draw of the screens without it: every digit of Termine1 at most that of Meta, neither number 0,
+// so the units never pass 9 in an addition and never run short in a subtraction.
+OperazioneAbaco TiraSenzaCambio(Random& rnd);
+
+struct AbacoOpMember {
+    const char* form;
+    int16_t numeroScheda;
+    bool cambio; // a second units wire and the "Cambio" button
+};
+
+const AbacoOpMember* FindAbacoSommaMember(const QString& form);
+const AbacoOpMember* FindAbacoDifferenzaMember(const QString& form);
+
+// What both operations share: the wires, the beads shown from their counts, the counts beside the
+// wires, the result box, the change button and "Ricomincia".
+class AbacoOpForm : public ExerciseForm {
+    Q_OBJECT
+public:
+    AbacoOpForm(Program& app, const AbacoOpMember& member, int widthTwips, int heightTwips,
+                FrameLayout layout);
+
+    void Load() override;
+    QJsonObject fields() const override;
+
+protected:
+    // The wires and the beads, from the top of the wires down to the lowest bead's top.
+    struct Geometria {
+        int filoAlto, filoBasso;
+        int daTop;             // top of the lowest tens bead
+        int uTop;              // top of the lowest unit bead
+        int u9Top;             // top of the tenth unit bead, the last of the first wire
+        int u18Top;            // top of the last bead of the second wire, or 0 where it stands in line
+        bool frecciaASinistra; // the change goes towards the tens
+    };
+    void CreaAbaco(const Geometria& geo);
+    // Every bead shown or hidden from the two counts, and the counts written beside the wires.
+    void MostraPalline();
+    // The question's numbers kept, the beads and the dialogue back to their start.
+    void AzzeraAbaco();
+    // A bead more or one less on a wire; false when the wire is full or bare and nothing changed.
+    bool AggiungiDecina();
+    bool TogliDecina();
+    bool AggiungiUnita();
+    bool TogliUnita();
+    int16_t LimiteUnita() const { return member_.cambio ? 19 : 9; }
+    int16_t Valore() const { return int16_t(10 * NumeroDecine + NumeroUnita); }
+    void ApriRisultato();
+
+    virtual void Controlla() = 0;
+    virtual void BottoneCambio_Click() = 0;
+    virtual void Text1_KeyUp(int keyCode) = 0;
+
+    const AbacoOpMember& member_;
+    Label* EtichettaNumero;
+    TextBox* Text1;
+    Label* Label3; // the units counted
+    Label* Label4; // the tens counted
+    Label* Label5; // the instruction of the moment
+    CommandButton* Bot_da;
+    CommandButton* Bot_u;
+    CommandButton* BottoneCambio = nullptr;
+    CommandButton* Bot_ricomincia;
+    ControlArray<Line> FiloAbaco;
+    ControlArray<Shape> pal_da;
+    ControlArray<Shape> pal_u;
+
+    int16_t NumeroUnita = 0;
+    int16_t NumeroDecine = 0;
+    int16_t Fase = 1;
+};
+
+class AbacoSommaForm : public AbacoOpForm {
+    Q_OBJECT
+public:
+    AbacoSommaForm(Program& app, const AbacoOpMember& member);
+
+protected:
+    void NuovaDomanda() override;
+    void BottoneAvanti_Click() override { NuovaDomanda(); }
+    void Controlla() override;
+    void BottoneCambio_Click() override;
+    void Text1_KeyUp(int keyCode) override;
+
+private:
+    void Ricomincia();
+    void Consegna();
+    Label* Label6;
+};
+
+class AbacoDifferenzaForm : public AbacoOpForm {
+    Q_OBJECT
+public:
+    AbacoDifferenzaForm(Program& app, const AbacoOpMember& member);
+
+protected:
+    void NuovaDomanda() override;
+    void BottoneAvanti_Click() override;
+    void Controlla() override;
+    void BottoneCambio_Click() override;
+    void Text1_KeyUp(int keyCode) override;
+
+private:
+    void Ricomincia();
+    void Consegna();
+    CommandButton* Command1; // "- da"
+    CommandButton* Command2; // "- u"
+};
+
+} // namespace contarello
