@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/numberline.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -62,6 +63,9 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // number lines
+        {"FormGradi20", Member<NumberLineForm, FindNumberLineMember>},
+        {"FormGradi20bis", Member<NumberLineForm, FindNumberLineMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
     };
