@@ -170,7 +170,9 @@ void NumberLineForm::BottoneAvanti_Click() {
 QJsonObject NumberLineForm::fields() const {
     return {{QStringLiteral("NumeroIniziale"), NumeroIniziale},
             {QStringLiteral("TaccaScelta"), TaccaScelta},
-            {QStringLiteral("NumeroRisposte"), NumeroRisposte}};
+            {QStringLiteral("NumeroRisposte"), NumeroRisposte},
+            // What the box must give; the shared NumeroEsatto is not this screen's.
+            {QStringLiteral("NumeroEsatto"), NumeroIniziale + TaccaScelta}};
 }
 
 } // namespace contarello
