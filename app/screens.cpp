@@ -1,6 +1,7 @@
 #include "app/screens.h"
 #include "graphics/abacus_ops.h"
 #include "graphics/longs.h"
+#include "graphics/numberline.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -74,6 +75,9 @@ std::vector<FormEntry> FormTable() {
         {"Form99c1", Member<AbacoSommaForm, FindAbacoSommaMember>},
         {"Form99d", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
         {"Form99d1", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
+        // number lines
+        {"FormGradi20", Member<NumberLineForm, FindNumberLineMember>},
+        {"FormGradi20bis", Member<NumberLineForm, FindNumberLineMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
     };

@@ -110,6 +110,46 @@ void BM_AnsweredQuestion(benchmark::State& state) {
 }
 BENCHMARK(BM_AnsweredQuestion)->Unit(benchmark::kMicrosecond);
 
+// The graphic menu to the number line "con decine fisse": 21 ticks, their numbers and the first
+// red tick, made, shown and painted.
+void BM_MenuToNumberLine(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto engine = std::make_unique<DriverEngine>();
+        engine->execute(cmd(R"({"click": "BottoneAvvio"})"));
+        engine->execute(cmd(R"({"click": "Command2"})"));
+        state.ResumeTiming();
+        engine->execute(cmd(R"({"click": "Command12"})"));
+        engine->program().nav.active()->repaint();
+        state.PauseTiming();
+        engine.reset();
+        settle();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_MenuToNumberLine)->Unit(benchmark::kMicrosecond);
+
+// One tick named and the next one marked; the fifth answer of a line draws a new line at once.
+void BM_AnsweredTick(benchmark::State& state) {
+    DriverEngine engine;
+    engine.execute(cmd(R"({"click": "BottoneAvvio"})"));
+    engine.execute(cmd(R"j({"click": "Option1(0)"})j"));
+    engine.execute(cmd(R"({"click": "Command2"})"));
+    engine.execute(cmd(R"({"click": "Command12"})"));
+    Form* linea = engine.program().nav.active();
+    for (auto _ : state) {
+        const QJsonObject f = linea->fields();
+        const int numero = f.value("NumeroIniziale").toInt() + f.value("TaccaScelta").toInt();
+        engine.execute({{"settext", "Text1"}, {"text", QString::number(numero)}});
+        engine.execute(cmd(R"({"key": "Text1", "code": 13})"));
+        linea->repaint();
+        state.PauseTiming();
+        engine.execute(cmd(R"({"dump": true})"));
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_AnsweredTick)->Unit(benchmark::kMicrosecond);
+
 // The largest worksheet of each kind, 25 rows of 6 exercises, built with its correction and both
 // broken into lines for the printer.
 void BM_LargestSheet(benchmark::State& state) {

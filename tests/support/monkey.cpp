@@ -29,6 +29,13 @@ int global(const QJsonObject& dump, const char* name) {
     return dump.value(QStringLiteral("globals")).toObject().value(QLatin1String(name)).toInt();
 }
 
+// The number a typed answer must give: a screen that keeps its own says so in its fields.
+int esattoOf(const QJsonObject& dump) {
+    const QJsonValue own =
+        dump.value(QStringLiteral("fields")).toObject().value(QStringLiteral("NumeroEsatto"));
+    return own.isDouble() ? own.toInt() : global(dump, "NumeroEsatto");
+}
+
 } // namespace
 
 Monkey::Monkey(unsigned seed) : rng_(seed) {}
@@ -108,9 +115,10 @@ bool Monkey::check(const QJsonObject& d) {
     return true;
 }
 
-// The question on a typed-answer screen is answerable: its answer NumeroEsatto, typed key by key
-// and confirmed with Enter, is judged right. Some screens take it in digits, some in words; which
-// one is learnt on a screen's first question and must hold from then on.
+// The question on a typed-answer screen is answerable: its answer NumeroEsatto (the screen's own,
+// where it keeps one), typed key by key and confirmed with Enter, is judged right. Some screens
+// take it in digits, some in words; which one is learnt on a screen's first question and must hold
+// from then on.
 bool Monkey::checkAnswer(const QJsonObject& d) {
     const QString form = d.value(QStringLiteral("form")).toString();
     const QJsonObject c = d.value(QStringLiteral("controls")).toObject();
@@ -123,7 +131,7 @@ bool Monkey::checkAnswer(const QJsonObject& d) {
     const auto known = answers_.find(form);
     QJsonObject now = d;
     for (int way = known == answers_.end() ? 0 : known->second; way < 2; ++way) {
-        const int esatto = global(now, "NumeroEsatto");
+        const int esatto = esattoOf(now);
         const int esatti = global(now, "Esatti"), errati = global(now, "Errati");
         Modulo1 g;
         long long n = esatto;
@@ -139,9 +147,7 @@ bool Monkey::checkAnswer(const QJsonObject& d) {
         }
         if (known != answers_.end()) break;
     }
-    return fail(QStringLiteral("the answer %1 typed on %2 is not judged right")
-                    .arg(global(d, "NumeroEsatto"))
-                    .arg(form));
+    return fail(QStringLiteral("the answer %1 typed on %2 is not judged right").arg(esattoOf(d)).arg(form));
 }
 
 QString Monkey::pickControl(const QJsonObject& d, const QStringList& kinds, bool dragSourceOnly) {

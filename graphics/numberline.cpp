@@ -1,0 +1,178 @@
+#include "graphics/numberline.h"
+#include "core/lang.h"
+#include "shell/program.h"
+
+#include <QFontMetrics>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <array>
+
+namespace contarello {
+
+namespace {
+
+const QColor kFondo(0xc0, 0x00, 0xc0);
+const QColor kNero(0, 0, 0);
+const QColor kRosso(0xff, 0, 0);
+
+// The axis, and the ticks on it: tick i stands at kSinistra + kPasso * i.
+constexpr int kSinistra = 525, kPasso = 420, kAsse = 3885, kCimaTacca = 3570;
+// Wide enough that a red tick stands out from the black ones on the violet ground.
+constexpr int kSpessore = 4;
+// After this many draws on ticks already red, the next free tick is taken: a line has at most
+// 8 red ticks of 21, so with real draws this never comes, but a stuck generator can't stop the line.
+constexpr int kTentativi = 64;
+
+constexpr std::array<NumberLineMember, 2> kMembers = {{
+    {"FormGradi20", true, 3360, 18, 2835, 12, 3255},
+    {"FormGradi20bis", false, kCimaTacca, 15.75, 3150, 15.75, 3255},
+}};
+
+bool Decina(int tacca) {
+    return tacca % 10 == 0;
+}
+
+FrameOptions Opzioni() {
+    FrameOptions o;
+    o.captions = kMenuLargo;
+    o.stampaScheda = false;
+    // The faces stand above the line, between the two counters.
+    o.layout.facce = {3255, 315, 855, 750};
+    o.layout.label1 = {360, 480, 1095, 375};
+    o.layout.esatti = {1500, 420, 1095, 495};
+    o.layout.label2 = {4800, 480, 1095, 375};
+    o.layout.errati = {5940, 420, 1095, 495};
+    return o;
+}
+
+} // namespace
+
+const NumberLineMember* FindNumberLineMember(const QString& form) {
+    for (const NumberLineMember& m : kMembers)
+        if (form == QLatin1String(m.form)) return &m;
+    return nullptr;
+}
+
+NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)
+    : ExerciseForm(program, Variante::A, 0, 9495, 6510, Opzioni()), member_(member) {
+    setBackColor(kFondo);
+    Line1 = line(QStringLiteral("Line1"), kSinistra, kAsse, kSinistra + kPasso * (kTacche - 1), kAsse, kNero,
+                 kSpessore);
+    for (int i = 0; i < kTacche; ++i) {
+        const int x = kSinistra + kPasso * i;
+        const bool alta = member.decineFisse && Decina(i);
+        Line2.set(i, line(indexed(QStringLiteral("Line2"), i), x, alta ? member.cimaDecine : kCimaTacca, x,
+                          kAsse, kNero, kSpessore));
+        const bool decina = Decina(i);
+        Label* l = label(indexed(QStringLiteral("Label3"), i), QString(), x,
+                         decina ? member.altoDecine : member.altoAltre, kPasso, 300,
+                         Arial(decina ? member.puntiDecine : member.puntiAltre));
+        l->setAutoSize(true);
+        l->setVisible(false);
+        Label3.set(i, l);
+    }
+    Text1 = textBox(QStringLiteral("Text1"), 3255, 4620, 2955, 1065, Arial(24));
+    Text1->setAlignment(Qt::AlignCenter);
+    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+}
+
+// Everything is set up at each activation: coming back to the screen starts the counts afresh.
+void NumberLineForm::Activate() {
+    BottoneAvanti->setVisible(g.AttendiBottone != False);
+    AzzeraConteggio();
+    NumeroRisposte = 0;
+    NuovaDomanda();
+}
+
+void NumberLineForm::NuovaDomanda() {
+    NumeroRisposte = 0;
+    Text1->setText(QString());
+    for (int i = 0; i < kTacche; ++i) {
+        Line2(i)->setBorderColor(kNero);
+        Label3(i)->setVisible(false);
+    }
+    if (member_.decineFisse) {
+        // From 10 to 70, whatever the limit: the highest number on a line is 90.
+        NumeroIniziale = int16_t((Draw(app.rnd, 7) + 1) * 10);
+        for (int i = 0; i < kTacche; i += 10) {
+            Line2(i)->setBorderColor(kRosso);
+            ScriviNumero(i);
+        }
+    } else {
+        // From 0 to the limit less 21, so the line ends below the limit.
+        NumeroIniziale = int16_t(Draw(app.rnd, g.NumeroMassimo - 20));
+        TaccaScelta = int16_t(std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1));
+        Line2(TaccaScelta)->setBorderColor(kRosso);
+        ScriviNumero(TaccaScelta);
+    }
+    Text1->setText(QString());
+    ColoraLinea();
+}
+
+bool NumberLineForm::Segnata(int tacca) const {
+    return Line2(tacca)->BorderColor() == kRosso;
+}
+
+void NumberLineForm::ColoraLinea() {
+    int tacca = std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1);
+    for (int tentativi = 1; Segnata(tacca) && tentativi < kTentativi; ++tentativi)
+        tacca = std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1);
+    for (int passo = 0; Segnata(tacca) && passo < kTacche; ++passo)
+        tacca = (tacca + 1) % kTacche;
+    TaccaScelta = int16_t(tacca);
+    Line2(TaccaScelta)->setBorderColor(kRosso);
+    Text1->setText(QString());
+    if (Text1->isEnabled()) Text1->SetFocus();
+}
+
+void NumberLineForm::ScriviNumero(int tacca) {
+    Label* l = Label3(tacca);
+    const QString numero = Str(NumeroIniziale + tacca);
+    l->setCaption(numero);
+    // The leading blank of the number is not counted: the digits stand over the tick.
+    const QFontMetrics fm(l->font());
+    const QString cifre = Trim(numero);
+    const int blank = fm.horizontalAdvance(numero) - fm.horizontalAdvance(cifre);
+    const int centro = tw(kSinistra + kPasso * tacca);
+    l->move(centro - blank - fm.horizontalAdvance(cifre) / 2, l->y());
+    l->setVisible(true);
+}
+
+// Enter alone answers, an empty box too: its number is the tick's own, not a count from the left.
+void NumberLineForm::Text1_KeyUp(int keyCode, int) {
+    if (keyCode != 13) return;
+    if (Val(Text1->Text()) == double(NumeroIniziale + TaccaScelta)) {
+        ScriviNumero(TaccaScelta);
+        RispostaEsatta();
+        ++NumeroRisposte;
+        if (NumeroRisposte != kRisposteLinea) {
+            ColoraLinea();
+        } else if (BottoneAvanti->Visible()) {
+            BottoneAvanti->setEnabled(true);
+            Text1->setEnabled(false);
+        } else {
+            NuovaDomanda();
+        }
+    } else {
+        // The red tick and the text stay, for the child to put right.
+        RispostaErrata();
+        if (Text1->isEnabled()) Text1->SetFocus();
+    }
+}
+
+void NumberLineForm::BottoneAvanti_Click() {
+    Text1->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+QJsonObject NumberLineForm::fields() const {
+    return {{QStringLiteral("NumeroIniziale"), NumeroIniziale},
+            {QStringLiteral("TaccaScelta"), TaccaScelta},
+            {QStringLiteral("NumeroRisposte"), NumeroRisposte},
+            // What the box must give; the shared NumeroEsatto is not this screen's.
+            {QStringLiteral("NumeroEsatto"), NumeroIniziale + TaccaScelta}};
+}
+
+} // namespace contarello
