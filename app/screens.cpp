@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/tablesteps.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -62,6 +63,13 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // the table of numbers 0 to 99
+        {"Form100a", Member<TableStepForm, FindTableStepMember>},
+        {"Form100b", Member<TableStepForm, FindTableStepMember>},
+        {"Form100f", Member<TableStepForm, FindTableStepMember>},
+        {"Form100c", Member<TableStepForm, FindTableStepMember>},
+        {"Form100d", Member<TableStepForm, FindTableStepMember>},
+        {"Form100e", Member<TableStepForm, FindTableStepMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
     };

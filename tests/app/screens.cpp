@@ -20,9 +20,7 @@ const QSet<QString> kStillToCome = {
     "FormMenuGrafici/Command24", "FormMenuGrafici/Command4",  "FormMenuGrafici/Command5",
     "FormMenuGrafici/Command35", "FormMenuGrafici/Command8",  "FormMenuGrafici/Command20",
     "FormMenuGrafici/Command9",  "FormMenuGrafici/Command25", "FormMenuGrafici/Command6",
-    "FormMenuGrafici/Command7",  "FormMenuGrafici/Command30", "FormMenuGrafici/Command29",
-    "FormMenuGrafici/Command28", "FormMenuGrafici/Command33", "FormMenuGrafici/Command32",
-    "FormMenuGrafici/Command31", "FormMenuGrafici/Command12", "FormMenuGrafici/Command13",
+    "FormMenuGrafici/Command7",  "FormMenuGrafici/Command12", "FormMenuGrafici/Command13",
 };
 
 const QSet<QString> kNotExercises = {"FormAvvio", "FormMenu", "FormMenuNumeri", "FormMenuGrafici"};
