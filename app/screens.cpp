@@ -9,6 +9,7 @@
 #include "numbers/words.h"
 #include "shell/menus.h"
 #include "worksheets/stampa.h"
+#include "worksheets/tablesheets.h"
 
 namespace contarello {
 
@@ -72,6 +73,8 @@ std::vector<FormEntry> FormTable() {
         {"Form100e", Member<TableStepForm, FindTableStepMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
+        {"formStampa2", Make<formStampa2>},
+        {"formStampa3", Make<formStampa3>},
     };
 }
 
