@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/tablefind.h"
 #include "graphics/tablesteps.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
@@ -71,6 +72,8 @@ std::vector<FormEntry> FormTable() {
         {"Form100c", Member<TableStepForm, FindTableStepMember>},
         {"Form100d", Member<TableStepForm, FindTableStepMember>},
         {"Form100e", Member<TableStepForm, FindTableStepMember>},
+        {"Form100Trova", Make<Form100Trova>},
+        {"Form100Ricon", Make<Form100Ricon>},
         // worksheets
         {"formStampa", Make<formStampa>},
         {"formStampa2", Make<formStampa2>},

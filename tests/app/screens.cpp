@@ -19,8 +19,8 @@ const QSet<QString> kStillToCome = {
     "FormMenuGrafici/Command10", "FormMenuGrafici/Command23", "FormMenuGrafici/Command11",
     "FormMenuGrafici/Command24", "FormMenuGrafici/Command4",  "FormMenuGrafici/Command5",
     "FormMenuGrafici/Command35", "FormMenuGrafici/Command8",  "FormMenuGrafici/Command20",
-    "FormMenuGrafici/Command9",  "FormMenuGrafici/Command25", "FormMenuGrafici/Command6",
-    "FormMenuGrafici/Command7",  "FormMenuGrafici/Command12", "FormMenuGrafici/Command13",
+    "FormMenuGrafici/Command9",  "FormMenuGrafici/Command25", "FormMenuGrafici/Command12",
+    "FormMenuGrafici/Command13",
 };
 
 const QSet<QString> kNotExercises = {"FormAvvio", "FormMenu", "FormMenuNumeri", "FormMenuGrafici"};
