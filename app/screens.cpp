@@ -2,6 +2,8 @@
 #include "graphics/abacus_ops.h"
 #include "graphics/longs.h"
 #include "graphics/numberline.h"
+#include "graphics/tablefind.h"
+#include "graphics/tablesteps.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -11,6 +13,7 @@
 #include "numbers/words.h"
 #include "shell/menus.h"
 #include "worksheets/stampa.h"
+#include "worksheets/tablesheets.h"
 
 namespace contarello {
 
@@ -78,8 +81,19 @@ std::vector<FormEntry> FormTable() {
         // number lines
         {"FormGradi20", Member<NumberLineForm, FindNumberLineMember>},
         {"FormGradi20bis", Member<NumberLineForm, FindNumberLineMember>},
+        // the table of numbers 0 to 99
+        {"Form100a", Member<TableStepForm, FindTableStepMember>},
+        {"Form100b", Member<TableStepForm, FindTableStepMember>},
+        {"Form100f", Member<TableStepForm, FindTableStepMember>},
+        {"Form100c", Member<TableStepForm, FindTableStepMember>},
+        {"Form100d", Member<TableStepForm, FindTableStepMember>},
+        {"Form100e", Member<TableStepForm, FindTableStepMember>},
+        {"Form100Trova", Make<Form100Trova>},
+        {"Form100Ricon", Make<Form100Ricon>},
         // worksheets
         {"formStampa", Make<formStampa>},
+        {"formStampa2", Make<formStampa2>},
+        {"formStampa3", Make<formStampa3>},
     };
 }
 

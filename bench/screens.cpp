@@ -150,6 +150,44 @@ void BM_AnsweredTick(benchmark::State& state) {
 }
 BENCHMARK(BM_AnsweredTick)->Unit(benchmark::kMicrosecond);
 
+// The table of 0 to 99: from the graphic menu to the first question, a hundred cells made, shown
+// and painted.
+void BM_MenuToTable(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto engine = std::make_unique<DriverEngine>();
+        engine->execute(cmd(R"({"click": "BottoneAvvio"})"));
+        engine->execute(cmd(R"({"click": "Command2"})"));
+        state.ResumeTiming();
+        engine->execute(cmd(R"({"click": "Command30"})"));
+        engine->program().nav.active()->repaint();
+        state.PauseTiming();
+        engine.reset();
+        settle();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_MenuToTable)->Unit(benchmark::kMicrosecond);
+
+// A right click on the table, "avanti", and the next question painted.
+void BM_TableAnswered(benchmark::State& state) {
+    DriverEngine engine;
+    engine.execute(cmd(R"({"click": "BottoneAvvio"})"));
+    engine.execute(cmd(R"({"click": "Command2"})"));
+    engine.execute(cmd(R"({"click": "Command30"})"));
+    Form* form = engine.program().nav.active();
+    for (auto _ : state) {
+        const QString cella = QStringLiteral("Numero(%1)").arg(engine.program().g.Meta);
+        engine.execute({{"click", cella}});
+        engine.execute(cmd(R"({"click": "BottoneAvanti"})"));
+        form->repaint();
+        state.PauseTiming();
+        engine.execute(cmd(R"({"dump": true})"));
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_TableAnswered)->Unit(benchmark::kMicrosecond);
+
 // The largest worksheet of each kind, 25 rows of 6 exercises, built with its correction and both
 // broken into lines for the printer.
 void BM_LargestSheet(benchmark::State& state) {

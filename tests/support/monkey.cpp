@@ -154,16 +154,22 @@ QString Monkey::pickControl(const QJsonObject& d, const QStringList& kinds, bool
     const QString form = d.value(QStringLiteral("form")).toString();
     const QJsonObject controls = d.value(QStringLiteral("controls")).toObject();
     QStringList names;
-    std::vector<double> weights;
+    // A control array counts as one control, its elements sharing its chances: a table of a hundred
+    // cells mustn't keep the monkey from the menu that leads away.
+    auto array = [](const QString& name) { return name.section(u'(', 0, 0); };
+    QHash<QString, int> members;
     for (auto it = controls.begin(); it != controls.end(); ++it) {
         const QJsonObject c = it.value().toObject();
         if (!kinds.contains(c.value(QStringLiteral("kind")).toString()) || !visibleAndEnabled(c)) continue;
         if (dragSourceOnly && c.value(QStringLiteral("dragmode")).toInt() != 1) continue;
         names.append(it.key());
-        // What was seldom tried comes first: so every button of a menu leads somewhere sooner or later.
-        weights.push_back(1.0 / (1 + clicks_[form + u'/' + it.key()]));
+        ++members[array(it.key())];
     }
     if (names.isEmpty()) return {};
+    std::vector<double> weights;
+    for (const QString& n : names)
+        // What was seldom tried comes first: so every button of a menu leads somewhere sooner or later.
+        weights.push_back(1.0 / (1 + clicks_[form + u'/' + n]) / members[array(n)]);
     const int i = std::discrete_distribution<int>(weights.begin(), weights.end())(rng_);
     ++clicks_[form + u'/' + names[i]];
     return names[i];

@@ -1,0 +1,179 @@
+#include "graphics/tablefind.h"
+#include "core/lang.h"
+#include "shell/program.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace contarello {
+
+// ---- TabellaLivelliForm ----
+
+TabellaLivelliForm::TabellaLivelliForm(Program& program, const char* scheda, bool facile)
+    : TabellaForm(program, 0, [scheda] {
+          FrameOptions o;
+          o.scheda = scheda;
+          return o;
+      }()) {
+    mnuTabella = menu(QStringLiteral("mnuTabella"), QStringLiteral("Tabella        "), nullptr, mnuStampa);
+    if (facile) mnuFacile = menu(QStringLiteral("mnuFacile"), QStringLiteral("facile"), mnuTabella);
+    mnuMedia = menu(QStringLiteral("mnuMedia"), QStringLiteral("media"), mnuTabella);
+    mnuDifficile = menu(QStringLiteral("mnuDifficile"), QStringLiteral("difficile"), mnuTabella);
+    for (MenuItem* item : {mnuFacile, mnuMedia, mnuDifficile}) {
+        if (!item) continue;
+        item->Click = [this, item] {
+            Scegli(item);
+            RiempiTabella();
+        };
+    }
+    Scegli(mnuMedia);
+}
+
+void TabellaLivelliForm::Scegli(MenuItem* item) {
+    for (MenuItem* i : {mnuFacile, mnuMedia, mnuDifficile})
+        if (i) i->setChecked(i == item);
+}
+
+void TabellaLivelliForm::Activate() {
+    BottoneAvanti->setVisible(g.AttendiBottone != False);
+    BottoneAvanti->setEnabled(false);
+    AzzeraConteggio();
+    Ricomincia();
+    Riapri();
+    NuovaDomanda();
+}
+
+void TabellaLivelliForm::RiempiTabella() {
+    if (mnuFacile && mnuFacile->Checked()) {
+        ScriviTutti();
+    } else if (mnuMedia->Checked()) {
+        for (auto& [i, c] : Numero)
+            c->setCaption(i < 10 || i % 10 == 0 ? Str(i) : QString());
+    } else {
+        for (auto& [i, c] : Numero)
+            c->setCaption(QString());
+    }
+}
+
+void TabellaLivelliForm::Ricomincia() {
+    Trovati = 0;
+    for (auto& [i, c] : Numero)
+        c->setBackColor(kCellaLibera);
+    RiempiTabella();
+}
+
+void TabellaLivelliForm::Trovato() {
+    if (++Trovati >= 10) Ricomincia();
+}
+
+int16_t TabellaLivelliForm::EstraiLibera(const std::function<bool(int)>& occupata) {
+    constexpr int kRipescaggi = 8;
+    const int limite = std::clamp(int(g.NumeroMassimo), 1, 100);
+    int n = Draw(app.rnd, 100);
+    for (int k = 0; k < kRipescaggi && occupata(n); ++k)
+        n = Draw(app.rnd, limite);
+    if (!occupata(n)) return int16_t(n);
+    std::vector<int> libere;
+    for (int fino : {limite, 100}) {
+        for (int i = 0; i < fino; ++i)
+            if (!occupata(i)) libere.push_back(i);
+        if (!libere.empty()) break;
+    }
+    if (libere.empty()) { // nothing left to ask: a new round
+        Ricomincia();
+        return EstraiLibera(occupata);
+    }
+    return int16_t(libere[Draw(app.rnd, double(libere.size()))]);
+}
+
+QJsonObject TabellaLivelliForm::fields() const {
+    return {{"Trovati", Trovati}};
+}
+
+// ---- Form100Trova ----
+
+Form100Trova::Form100Trova(Program& program) : TabellaLivelliForm(program, "formStampa2", true) {
+    constexpr int x = ColonnaTabella::left, w = ColonnaTabella::width;
+    Label3 = label(QStringLiteral("Label3"), QStringLiteral("clicca sul numero"), x, 2640, w, 375, Arial(12));
+    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), x, 3120, w, 855, Arial(24));
+    EtichettaNumero->setAlignment(Qt::AlignCenter);
+}
+
+void Form100Trova::Riapri() {
+    AbilitaTutte();
+}
+
+void Form100Trova::NuovaDomanda() {
+    CaricaColori();
+    g.NumeroEsatto = EstraiLibera([this](int i) { return Numero(i)->BackColor() == kCellaRossa; });
+    EtichettaNumero->setCaption(Str(g.NumeroEsatto));
+}
+
+void Form100Trova::Numero_Click(int i) {
+    if (i != g.NumeroEsatto) {
+        RispostaErrata();
+        return;
+    }
+    Numero(i)->setCaption(Str(i));
+    Numero(i)->setBackColor(kCellaRossa);
+    Trovato();
+    RispostaEsattaPoiAvanti([this] { Numero(g.NumeroEsatto)->setEnabled(false); });
+}
+
+void Form100Trova::BottoneAvanti_Click() {
+    Numero(g.NumeroEsatto)->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+// ---- Form100Ricon ----
+
+Form100Ricon::Form100Ricon(Program& program) : TabellaLivelliForm(program, "formStampa3", false) {
+    constexpr int x = ColonnaTabella::left, w = ColonnaTabella::width;
+    Label3 = label(QStringLiteral("Label3"), QString::fromUtf8("quale numero è rosso?"), x, 2640, w, 375,
+                   Arial(12));
+    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    Text1 = textBox(QStringLiteral("Text1"), 6600, 3360, 1665, 1335, Arial(36));
+    Text1->setAlignment(Qt::AlignCenter);
+    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+}
+
+void Form100Ricon::Riapri() {
+    Text1->setEnabled(true);
+}
+
+void Form100Ricon::RiempiTabella() {
+    TabellaLivelliForm::RiempiTabella();
+    // A change of level mustn't write in the number the child is being asked for.
+    if (Text1->isEnabled() && Numero(g.NumeroEsatto)->BackColor() == kCellaRossa)
+        Numero(g.NumeroEsatto)->setCaption(QString());
+}
+
+void Form100Ricon::NuovaDomanda() {
+    CaricaColori();
+    g.NumeroEsatto = EstraiLibera([this](int i) { return !Numero(i)->Caption().isEmpty(); });
+    Numero(g.NumeroEsatto)->setBackColor(kCellaRossa);
+    Text1->setText(QString());
+    if (Text1->isEnabled()) Text1->SetFocus();
+}
+
+void Form100Ricon::Text1_KeyUp(int keyCode, int) {
+    if (keyCode != 13) return;
+    // No filter here: an empty box, or one with no number in front, reads as 0.
+    if (Val(Text1->Text()) != g.NumeroEsatto) {
+        RispostaErrata();
+        return;
+    }
+    Numero(g.NumeroEsatto)->setCaption(Str(g.NumeroEsatto));
+    Trovato();
+    RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
+}
+
+void Form100Ricon::BottoneAvanti_Click() {
+    Text1->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+} // namespace contarello
