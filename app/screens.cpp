@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/longs.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -7,6 +8,7 @@
 #include "numbers/stepping.h"
 #include "numbers/words.h"
 #include "shell/menus.h"
+#include "worksheets/longsheets.h"
 #include "worksheets/stampa.h"
 
 namespace contarello {
@@ -62,8 +64,14 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // longs and units
+        {"Form999x", Make<Form999x>},
+        {"Form999y", Member<LongsReaderForm, FindLongsReaderMember>},
+        {"Form999z", Member<LongsReaderForm, FindLongsReaderMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
+        {"formStampa1", Make<formStampa1>},
+        {"formStampa4", Make<formStampa4>},
     };
 }
 

@@ -1,0 +1,268 @@
+#include "graphics/longs.h"
+#include "core/lang.h"
+#include "core/numberwords.h"
+#include "shell/pictures.h"
+#include "shell/program.h"
+
+#include <array>
+
+namespace contarello {
+
+namespace {
+
+constexpr int kLarghezza = 11520, kAltezza = 7200;
+// Rows of the drawing: a bar and a square on each, one under the other.
+constexpr int kRighe = 9, kPassoRiga = 630, kLatoQuadretto = 540, kLunghezzaBarra = 4845;
+
+QString Parola(int numero, Modulo1& g) {
+    long long n = numero; // the routine uses its number up
+    return NumeroInParole(n, g);
+}
+
+FrameOptions Opzioni(const char* scheda, const FrameLayout& layout) {
+    FrameOptions o;
+    o.captions = MenuCaptions{"Azzera conteggio        ", "Stampa scheda        ", "Informazioni          "};
+    o.scheda = scheda;
+    o.limiteA99 = true;
+    o.layout = layout;
+    return o;
+}
+
+// Form999x: the counters and the faces in a column of their own at the right, beside the column of
+// buttons that builds the number.
+FrameLayout AspettoCostruttore() {
+    FrameLayout at;
+    at.label1 = {9000, 795, 1095, 375};
+    at.esatti = {10080, 735, 1095, 495};
+    at.label2 = {9000, 1515, 1095, 375};
+    at.errati = {10080, 1455, 1095, 495};
+    at.facce = {9600, 2400, 855, 750};
+    at.avanti = {6120, 5100, 2520, 1215};
+    return at;
+}
+
+// Form999y and Form999z: the counters in a row right of the drawing, the faces under them, the box in
+// the middle and "avanti" low.
+FrameLayout AspettoLettore() {
+    FrameLayout at;
+    at.label1 = {6120, 375, 1095, 375};
+    at.esatti = {7260, 315, 1095, 495};
+    at.label2 = {8640, 375, 1095, 375};
+    at.errati = {9780, 315, 1095, 495};
+    at.facce = {8280, 1080, 855, 750};
+    at.avanti = {7920, 4620, 1575, 1215};
+    return at;
+}
+
+} // namespace
+
+// ---- LunghiForm ----
+
+LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, const FrameLayout& layout)
+    : ExerciseForm(program, Variante::B, 0, kLarghezza, kAltezza, Opzioni(scheda, layout)) {
+    AggiungiCorniceNumeroMassimo(QStringLiteral("MenuNumeroMassimo"),
+                                 QStringLiteral("Scegli il numero massimo        "), mnuStampa);
+    for (int i = 0; i < kRighe; ++i) {
+        const int y = top + kPassoRiga * i;
+        Shape* barra = shape(indexed(QStringLiteral("Decine"), i), Shape::Rectangle, left, y, kLunghezzaBarra,
+                             kLatoQuadretto);
+        barra->setFillStyle(Shape::Solid);
+        barra->setFillColor(QColor(0xff, 0x00, 0x00));
+        barra->setVisible(false);
+        Decine.set(i, barra);
+        Shape* quadretto = shape(indexed(QStringLiteral("Unita"), i), Shape::Square,
+                                 left + kLunghezzaBarra + 195, y, kLatoQuadretto, kLatoQuadretto);
+        quadretto->setFillStyle(Shape::Solid);
+        quadretto->setFillColor(QColor(0x00, 0x00, 0xff));
+        quadretto->setVisible(false);
+        Unita.set(i, quadretto);
+    }
+}
+
+void LunghiForm::Load() {
+    BottoneAvanti->setVisible(g.AttendiBottone != False);
+    // The limit panel chooses 99, with a question of its own; the counters then start at 0 and the
+    // question the child sees is drawn last.
+    ExerciseForm::Load();
+    AzzeraConteggio();
+    NuovaDomanda();
+}
+
+void LunghiForm::NascondiDisegno() {
+    for (int i = 0; i < kRighe; ++i) {
+        Decine(i)->setVisible(false);
+        Unita(i)->setVisible(false);
+    }
+}
+
+QJsonObject LunghiForm::fields() const {
+    return {{"NumeroDecine", NumeroDecine}, {"NumeroUnita", NumeroUnita}};
+}
+
+// ---- Form999x ----
+
+Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
+    EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 210, 120, 5580, 540, Arial(20.25));
+    EtichettaNumero->setAlignment(Qt::AlignCenter);
+    EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
+
+    constexpr int x = 6120, largo = 2520;
+    BottoneUnita =
+        button(QStringLiteral("BottoneUnita"), QStringLiteral("Unità"), x, 735, largo, 735, Arial(14.25));
+    BottoneUnita->setBackColor(QColor(0x00, 0x00, 0xff));
+    BottoneDecine =
+        button(QStringLiteral("BottoneDecine"), QStringLiteral("Decine"), x, 1620, largo, 735, Arial(14.25));
+    BottoneDecine->setBackColor(QColor(0xff, 0x00, 0x00));
+    BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), x, 2505,
+                               largo, 1095, Arial(12));
+    BottoneRicomincia->setPicture(pictures::FrecciaCircolare());
+    BottoneConferma = button(QStringLiteral("BottoneConferma"), QStringLiteral("Conferma"), x, 3750, largo,
+                             1095, Arial(12));
+    BottoneConferma->setPicture(pictures::FacciaSorridente());
+
+    MenuNumero = menu(QStringLiteral("MenuNumero"), QStringLiteral("Numero in        "), nullptr, mnuStampa);
+    MenuParola = menu(QStringLiteral("MenuParola"), QStringLiteral("Parola"), MenuNumero);
+    MenuCifre = menu(QStringLiteral("MenuCifre"), QStringLiteral("Cifre"), MenuNumero);
+    MenuParola->setChecked(true);
+
+    BottoneDecine->Click = [this] { BottoneDecine_Click(); };
+    BottoneUnita->Click = [this] { BottoneUnita_Click(); };
+    BottoneRicomincia->Click = [this] { BottoneRicomincia_Click(); };
+    BottoneConferma->Click = [this] { BottoneConferma_Click(); };
+    // The check mark is the one store of the choice; either item brings a new number.
+    MenuParola->Click = [this] {
+        MenuCifre->setChecked(false);
+        MenuParola->setChecked(true);
+        NuovaDomanda();
+    };
+    MenuCifre->Click = [this] {
+        MenuParola->setChecked(false);
+        MenuCifre->setChecked(true);
+        NuovaDomanda();
+    };
+    CorniceNumeroMassimo->raise();
+}
+
+void Form999x::NuovaDomanda() {
+    CaricaColori();
+    NascondiDisegno();
+    g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
+    NumeroDecine = 0;
+    NumeroUnita = 0;
+    EtichettaNumero->setCaption(MenuParola->Checked() ? Parola(g.NumeroEsatto, g)
+                                                      : Format(g.NumeroEsatto, QStringLiteral("#,##0")));
+}
+
+// Nine of a kind at most: a tenth press changes nothing, and ten squares never turn into a bar.
+void Form999x::BottoneDecine_Click() {
+    if (NumeroDecine == kRighe) return;
+    Decine(NumeroDecine)->setVisible(true);
+    ++NumeroDecine;
+}
+
+void Form999x::BottoneUnita_Click() {
+    if (NumeroUnita == kRighe) return;
+    Unita(NumeroUnita)->setVisible(true);
+    ++NumeroUnita;
+}
+
+// The only way to take shapes off: all of them. The question and the counters stay.
+void Form999x::BottoneRicomincia_Click() {
+    NascondiDisegno();
+    NumeroDecine = 0;
+    NumeroUnita = 0;
+}
+
+// Every press is one answer; a wrong one leaves the drawing to be mended.
+void Form999x::BottoneConferma_Click() {
+    if (NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto) {
+        RispostaEsattaPoiAvanti([this] { BottoneConferma->setEnabled(false); });
+    } else {
+        RispostaErrata();
+    }
+}
+
+void Form999x::BottoneAvanti_Click() {
+    BottoneConferma->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+// ---- Form999y, Form999z ----
+
+namespace {
+
+// Val reads the leading number and stops at the first letter: 007, "7 " and 7a are all 7.
+bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
+    return Val(testo) == numero;
+}
+
+// One spelling per number, in capitals, without accent or blank inside; blanks around it are forgiven.
+bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
+    return Trim(testo) == Parola(numero, g);
+}
+
+constexpr std::array<LongsReaderMember, 2> kReaders = {{
+    {"Form999y", "Scrivi il numero in cifre", 26.25, CifreGiuste, nullptr},
+    {"Form999z", "Scrivi il numero in lettere", 12, ParolaGiusta, FiltroMaiuscole},
+}};
+
+} // namespace
+
+const LongsReaderMember* FindLongsReaderMember(const QString& form) {
+    for (const LongsReaderMember& m : kReaders)
+        if (form == QLatin1String(m.form)) return &m;
+    return nullptr;
+}
+
+LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& member)
+    : LunghiForm(program, "formStampa4", 105, 315, AspettoLettore()), member_(member) {
+    Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 5880, 2220, 5520, 375,
+                   Arial(12));
+    Label3->setAlignment(Qt::AlignCenter);
+    const bool grande = member.fontTesto > 20;
+    Text1 = textBox(QStringLiteral("Text1"), grande ? 7080 : 6120, 2700, grande ? 3600 : 5040,
+                    grande ? 855 : 495, Arial(member.fontTesto));
+    Text1->setAlignment(Qt::AlignCenter);
+    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
+    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+    CorniceNumeroMassimo->raise();
+}
+
+void LongsReaderForm::Load() {
+    LunghiForm::Load();
+    // The box is ready for the first key, as it is the first control of the screen.
+    Text1->SetFocus();
+}
+
+void LongsReaderForm::NuovaDomanda() {
+    CaricaColori();
+    Text1->setText(QString());
+    NascondiDisegno();
+    g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
+    NumeroDecine = int16_t(g.NumeroEsatto / 10);
+    NumeroUnita = int16_t(g.NumeroEsatto - 10 * NumeroDecine);
+    for (int i = 0; i < NumeroDecine && i < kRighe; ++i)
+        Decine(i)->setVisible(true);
+    for (int i = 0; i < NumeroUnita && i < kRighe; ++i)
+        Unita(i)->setVisible(true);
+}
+
+// Enter released on a box that isn't empty is one answer; held down, it is released once.
+void LongsReaderForm::Text1_KeyUp(int keyCode, int) {
+    if (keyCode != 13 || Text1->Text().isEmpty()) return;
+    if (member_.giusta(Text1->Text(), g.NumeroEsatto, g)) {
+        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
+    } else {
+        RispostaErrata();
+    }
+    if (Text1->isEnabled()) Text1->SetFocus();
+}
+
+void LongsReaderForm::BottoneAvanti_Click() {
+    Text1->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+} // namespace contarello
