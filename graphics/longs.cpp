@@ -41,16 +41,16 @@ FrameLayout AspettoCostruttore() {
     return at;
 }
 
-// Form999y and Form999z: the counters in a row right of the drawing, the faces under them, the box in
-// the middle and "avanti" low.
+// Form999y and Form999z: right of the drawing, one above the other and centred on one line, the
+// counters, the face, the prompt and the box, and "avanti" low.
 FrameLayout AspettoLettore() {
     FrameLayout at;
-    at.label1 = {6120, 375, 1095, 375};
-    at.esatti = {7260, 315, 1095, 495};
-    at.label2 = {8640, 375, 1095, 375};
-    at.errati = {9780, 315, 1095, 495};
-    at.facce = {8280, 1080, 855, 750};
-    at.avanti = {7920, 4620, 1575, 1215};
+    at.label1 = {6260, 375, 1095, 375};
+    at.esatti = {7400, 315, 1095, 495};
+    at.label2 = {8780, 375, 1095, 375};
+    at.errati = {9920, 315, 1095, 495};
+    at.facce = {8213, 1080, 855, 750};
+    at.avanti = {7853, 4620, 1575, 1215};
     return at;
 }
 
@@ -221,7 +221,7 @@ LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& memb
                    Arial(12));
     Label3->setAlignment(Qt::AlignCenter);
     const bool grande = member.fontTesto > 20;
-    Text1 = textBox(QStringLiteral("Text1"), grande ? 7080 : 6120, 2700, grande ? 3600 : 5040,
+    Text1 = textBox(QStringLiteral("Text1"), grande ? 6840 : 6120, 2700, grande ? 3600 : 5040,
                     grande ? 855 : 495, Arial(member.fontTesto));
     Text1->setAlignment(Qt::AlignCenter);
     if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };

@@ -3,6 +3,8 @@
 #include "core/numberwords.h"
 #include "shell/program.h"
 
+#include <QFontMetrics>
+
 namespace contarello {
 
 namespace {
@@ -15,6 +17,18 @@ int Colonna(int i) {
     return 120 + 2400 * (i % 4);
 }
 
+// The longest words don't fit a box in the size of the page: they take a smaller size, so that the
+// whole word and the line after it are printed.
+void Adatta(TextBox* box, double punti) {
+    constexpr double kMinimo = 7;
+    const int spazio = box->contentsRect().width() - 8; // the box's own inner margins
+    QFont f = box->font();
+    f.setPointSizeF(punti);
+    while (f.pointSizeF() > kMinimo && QFontMetrics(f).horizontalAdvance(box->Text()) > spazio)
+        f.setPointSizeF(f.pointSizeF() - 0.25);
+    if (f.pointSizeF() != box->font().pointSizeF()) box->setFontSize(f.pointSizeF());
+}
+
 } // namespace
 
 // ---- LongsSheetForm ----
@@ -25,7 +39,11 @@ LongsSheetForm::LongsSheetForm(Program& program, const QString& intestazione, in
     mnustampa = menu(QStringLiteral("mnustampa"), QStringLiteral("Stampa   "));
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
     // The page goes to the printer as it shows, words typed in the boxes included.
-    mnustampa->Click = [this] { PrintForm(); };
+    mnustampa->Click = [this] {
+        // The blinking caret is no part of the page.
+        if (QWidget* f = focusWidget()) f->clearFocus();
+        PrintForm();
+    };
     mnuesci->Click = [this] { UnloadMe(); };
 
     // The heading reads as a line of the page, not as a box: no edge, no scroll bars, no margin.
@@ -36,6 +54,8 @@ LongsSheetForm::LongsSheetForm(Program& program, const QString& intestazione, in
     Text2->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Text2->document()->setDocumentMargin(0);
     Text2->setText(intestazione + CRLF);
+    // A click lets the adult reword it; the page doesn't open with a caret in it.
+    Text2->setFocusPolicy(Qt::ClickFocus);
 }
 
 void LongsSheetForm::Cella(int i, Rect f, Rect b, const QFont& font, Qt::Alignment allineamento) {
@@ -66,6 +86,7 @@ void formStampa1::Genera8Numeri() {
     for (int i = 0; i < kCelle; ++i) {
         long long x = Draw(app.rnd, g.NumeroMassimo);
         Text1(i)->setText(NumeroInParole(x, g) + QStringLiteral(" ___ "));
+        Adatta(Text1(i), 9.75);
         Text1(i)->setCursorPosition(0);
     }
 }
