@@ -1,6 +1,7 @@
 #include "app/screens.h"
 #include "graphics/abacus_ops.h"
 #include "graphics/longs.h"
+#include "graphics/longsunits.h"
 #include "graphics/numberline.h"
 #include "graphics/tablefind.h"
 #include "graphics/tablesteps.h"
@@ -12,6 +13,7 @@
 #include "numbers/stepping.h"
 #include "numbers/words.h"
 #include "shell/menus.h"
+#include "worksheets/longsheets.h"
 #include "worksheets/stampa.h"
 #include "worksheets/tablesheets.h"
 
@@ -94,6 +96,14 @@ std::vector<FormEntry> FormTable() {
         {"formStampa", Make<formStampa>},
         {"formStampa2", Make<formStampa2>},
         {"formStampa3", Make<formStampa3>},
+        // longs and units
+        {"Form999x", Make<Form999x>},
+        {"Form999y", Member<LongsReaderForm, FindLongsReaderMember>},
+        {"Form999z", Member<LongsReaderForm, FindLongsReaderMember>},
+        // worksheets
+        {"formStampa", Make<formStampa>},
+        {"formStampa1", Make<formStampa1>},
+        {"formStampa4", Make<formStampa4>},
     };
 }
 

@@ -1,0 +1,90 @@
+#pragma once
+// The three screens of longs and units: a ten is a long red bar, a unit a small blue square.
+// Form999x asks a number and the child builds it with bars and squares; Form999y and Form999z draw
+// a number and the child writes it, in digits or in words. One base for the drawing, the limit
+// and the Load they share; Form999x on its own; the two readers as one class and a table.
+
+#include "shell/exercise.h"
+
+namespace contarello {
+
+// The drawing, the limit panel set back to 99 at each Load, the counters and the first question.
+class LunghiForm : public ExerciseForm {
+    Q_OBJECT
+public:
+    void Load() override;
+    QJsonObject fields() const override;
+
+protected:
+    // The bars and squares stand in two columns of nine rows, bar i and square i on row i; top is
+    // where row 0 stands, left where the bars begin.
+    LunghiForm(Program& app, const char* scheda, int left, int top, const FrameLayout& layout);
+    // The drawing as it stands at the start of every question: nothing on show.
+    void NascondiDisegno();
+
+    ControlArray<Shape> Decine;
+    ControlArray<Shape> Unita;
+    int16_t NumeroUnita = 0;
+    int16_t NumeroDecine = 0;
+};
+
+// "dal numero al disegno": the number in words or digits, built by adding bars and squares.
+class Form999x : public LunghiForm {
+    Q_OBJECT
+public:
+    explicit Form999x(Program& app);
+
+protected:
+    void NuovaDomanda() override;
+    void BottoneAvanti_Click() override;
+
+private:
+    void BottoneDecine_Click();
+    void BottoneUnita_Click();
+    void BottoneRicomincia_Click();
+    void BottoneConferma_Click();
+
+    Label* EtichettaNumero;
+    CommandButton* BottoneUnita;
+    CommandButton* BottoneDecine;
+    CommandButton* BottoneRicomincia;
+    CommandButton* BottoneConferma;
+    MenuItem* MenuNumero;
+    MenuItem* MenuParola;
+    MenuItem* MenuCifre;
+};
+
+// One of the two screens that draw a number and take it typed.
+struct LongsReaderMember {
+    const char* form;
+    const char* consegna; // the fixed prompt above the box
+    double fontTesto;     // points of the answer box
+    // Whether the text typed names the number.
+    bool (*giusta)(const QString& testo, int numero, Modulo1& g);
+    // The key filter of the answer box, or nullptr for none.
+    int (*filtro)(int& keyAscii);
+};
+
+const LongsReaderMember* FindLongsReaderMember(const QString& form);
+
+// Form999y, "scrivi il numero in cifre", and Form999z, "scrivi il numero in lettere".
+class LongsReaderForm : public LunghiForm {
+    Q_OBJECT
+public:
+    LongsReaderForm(Program& app, const LongsReaderMember& member);
+
+    void Load() override;
+
+protected:
+    void NuovaDomanda() override;
+    void BottoneAvanti_Click() override;
+
+private:
+    void Text1_KeyUp(int keyCode, int shift);
+
+    const LongsReaderMember& member_;
+    TextBox* Text1;
+    Label* Label3;
+};
+
+} // namespace contarello
