@@ -1,226 +1,268 @@
-// The three screens of longs and units end to end: the number drawn and its range, the bars and
-// squares a child places, the answers typed in digits and in words, and the limit.
+#include "graphics/longsunits.h"
+#include "core/lang.h"
+#include "core/numberwords.h"
+#include "shell/pictures.h"
+#include "shell/program.h"
 
-#include "support/harness.h"
+#include <array>
 
-#include <QJsonObject>
-#include <QTest>
-
-using namespace contarello;
-using namespace contarello::test;
+namespace contarello {
 
 namespace {
 
-// The draw that gives e under the limit n: Int(Rnd * n) + 1.
-double drawFor(int e, int n = 99) {
-    return (e - 1 + 0.5) / n;
+constexpr int kLarghezza = 11520, kAltezza = 7200;
+// Rows of the drawing: a bar and a square on each, one under the other.
+constexpr int kRighe = 9, kPassoRiga = 630, kLatoQuadretto = 540, kLunghezzaBarra = 4845;
+
+QString Parola(int numero, Modulo1& g) {
+    long long n = numero; // the routine uses its number up
+    return NumeroInParole(n, g);
 }
 
-// Opens a screen asking for e. Load draws twice, once as the limit is set to 99 and once for the
-// question the child sees: a colour and a number each time.
-void open(Harness& h, const QString& form, int e) {
-    h.dump();
-    h.rnd({0.0, drawFor(50), 0.0, drawFor(e)});
-    h.run(QStringLiteral(R"({"show": "%1"})").arg(form));
-    h.events();
+FrameOptions Opzioni(const char* scheda, const FrameLayout& layout) {
+    FrameOptions o;
+    o.captions = MenuCaptions{"Azzera conteggio        ", "Stampa scheda        ", "Informazioni          "};
+    o.scheda = scheda;
+    o.limiteA99 = true;
+    o.layout = layout;
+    return o;
 }
 
-// Bars and squares fill from the top: the first n shown, the rest hidden.
-bool fromTheTop(Harness& h, const QString& array, int n) {
-    const QJsonObject controls = h.dump().value("controls").toObject();
-    for (int i = 0; i < 9; ++i)
-        if (controls.value(QStringLiteral("%1(%2)").arg(array).arg(i)).toObject().value("visible").toBool() !=
-            (i < n))
-            return false;
-    return true;
+// Form999x: the counters and the faces in a column of their own at the right, beside the column of
+// buttons that builds the number.
+FrameLayout AspettoCostruttore() {
+    FrameLayout at;
+    at.label1 = {9000, 795, 1095, 375};
+    at.esatti = {10080, 735, 1095, 495};
+    at.label2 = {9000, 1515, 1095, 375};
+    at.errati = {10080, 1455, 1095, 495};
+    at.facce = {9600, 2400, 855, 750};
+    at.avanti = {6120, 5100, 2520, 1215};
+    return at;
 }
 
-void click(Harness& h, const char* name, int times = 1) {
-    for (int i = 0; i < times; ++i)
-        h.run(QStringLiteral(R"({"click": "%1"})").arg(name));
+// Form999y and Form999z: right of the drawing, one above the other and centred on one line, the
+// counters, the face, the prompt and the box, and "avanti" low.
+FrameLayout AspettoLettore() {
+    FrameLayout at;
+    at.label1 = {6260, 375, 1095, 375};
+    at.esatti = {7400, 315, 1095, 495};
+    at.label2 = {8780, 375, 1095, 375};
+    at.errati = {9920, 315, 1095, 495};
+    at.facce = {8213, 1080, 855, 750};
+    at.avanti = {7853, 4620, 1575, 1215};
+    return at;
 }
 
 } // namespace
 
-class LongsTest : public QObject {
-    Q_OBJECT
-private slots:
-    // The reading screens draw the number; the limit bounds it, and 0 never comes.
-    void theDrawnNumber_data() {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<int>("limite");
-        QTest::addColumn<double>("rnd");
-        QTest::addColumn<int>("numero");
-        QTest::newRow("no units") << "Form999y" << 99 << drawFor(40) << 40;
-        QTest::newRow("no tens") << "Form999z" << 99 << drawFor(7) << 7;
-        QTest::newRow("the smallest") << "Form999y" << 99 << 0.0 << 1;
-        QTest::newRow("the limit itself") << "Form999z" << 99 << 0.99999 << 99;
-        QTest::newRow("at most one bar under 19") << "Form999y" << 19 << 0.99999 << 19;
-    }
-    void theDrawnNumber() {
-        QFETCH(QString, form);
-        QFETCH(int, limite);
-        QFETCH(double, rnd);
-        QFETCH(int, numero);
-        Harness h;
-        open(h, form, 50);
-        h.run(R"({"menu": "MenuNumeroMassimo"})");
-        h.rnd({0.0, rnd});
-        h.run(QStringLiteral(R"J({"click": "OpzioneNumeroMassimo(%1)"})J").arg((limite - 19) / 10));
-        QCOMPARE(h.global("NumeroMassimo"), limite);
-        QCOMPARE(h.global("NumeroEsatto"), numero);
-        QVERIFY(fromTheTop(h, "Decine", numero / 10));
-        QVERIFY(fromTheTop(h, "Unita", numero % 10));
-    }
+// ---- LunghiForm ----
 
-    // Whatever the main menu chose, each of the three starts at 99.
-    void theLimitIsSetBackTo99() {
-        for (const char* form : {"Form999x", "Form999y", "Form999z"}) {
-            Harness h;
-            h.setLimit(25);
-            QCOMPARE(h.global("NumeroMassimo"), 25);
-            open(h, form, 60);
-            QCOMPARE(h.global("NumeroMassimo"), 99);
-            QCOMPARE(h.global("NumeroEsatto"), 60);
-            QVERIFY(!h.visible("CorniceNumeroMassimo"));
-        }
+LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, const FrameLayout& layout)
+    : ExerciseForm(program, Variante::B, 0, kLarghezza, kAltezza, Opzioni(scheda, layout)) {
+    AggiungiCorniceNumeroMassimo(QStringLiteral("MenuNumeroMassimo"),
+                                 QStringLiteral("Scegli il numero massimo        "), mnuStampa);
+    for (int i = 0; i < kRighe; ++i) {
+        const int y = top + kPassoRiga * i;
+        Shape* barra = shape(indexed(QStringLiteral("Decine"), i), Shape::Rectangle, left, y, kLunghezzaBarra,
+                             kLatoQuadretto);
+        barra->setFillStyle(Shape::Solid);
+        barra->setFillColor(QColor(0xff, 0x00, 0x00));
+        barra->setVisible(false);
+        Decine.set(i, barra);
+        Shape* quadretto = shape(indexed(QStringLiteral("Unita"), i), Shape::Square,
+                                 left + kLunghezzaBarra + 195, y, kLatoQuadretto, kLatoQuadretto);
+        quadretto->setFillStyle(Shape::Solid);
+        quadretto->setFillColor(QColor(0x00, 0x00, 0xff));
+        quadretto->setVisible(false);
+        Unita.set(i, quadretto);
     }
+}
 
-    // Form999x: presses of the two buttons, then Conferma twice; each press of Conferma counts.
-    void building_data() {
-        QTest::addColumn<int>("numero");
-        QTest::addColumn<int>("decine");
-        QTest::addColumn<int>("unita");
-        QTest::addColumn<int>("bars");
-        QTest::addColumn<int>("squares");
-        QTest::addColumn<bool>("right");
-        QTest::newRow("bars only") << 40 << 4 << 0 << 4 << 0 << true;
-        QTest::newRow("squares only") << 7 << 0 << 7 << 0 << 7 << true;
-        QTest::newRow("a tenth press changes nothing") << 99 << 10 << 11 << 9 << 9 << true;
-        QTest::newRow("ten squares are not a bar") << 20 << 1 << 10 << 1 << 9 << false;
-        QTest::newRow("an empty drawing") << 1 << 0 << 0 << 0 << 0 << false;
-    }
-    void building() {
-        QFETCH(int, numero);
-        QFETCH(int, decine);
-        QFETCH(int, unita);
-        QFETCH(int, bars);
-        QFETCH(int, squares);
-        QFETCH(bool, right);
-        Harness h;
-        open(h, "Form999x", numero);
-        click(h, "BottoneDecine", decine);
-        click(h, "BottoneUnita", unita);
-        const QJsonObject fields = h.dump().value("fields").toObject();
-        QCOMPARE(fields.value("NumeroDecine").toInt(), bars);
-        QCOMPARE(fields.value("NumeroUnita").toInt(), squares);
-        QVERIFY(fromTheTop(h, "Decine", bars));
-        QVERIFY(fromTheTop(h, "Unita", squares));
-        h.rnd({0.0});
-        click(h, "BottoneConferma");
-        if (right) {
-            // The screen waits for "avanti" with the drawing as built.
-            QCOMPARE(h.global("Esatti"), 1);
-            QVERIFY(!h.enabled("BottoneConferma"));
-            QVERIFY(h.enabled("BottoneAvanti"));
-            QCOMPARE(h.sounds(), QStringList{"suoni/si1.wav"});
-            h.rnd({0.0, drawFor(33)});
-            click(h, "BottoneAvanti");
-            QCOMPARE(h.global("NumeroEsatto"), 33);
-            QVERIFY(h.enabled("BottoneConferma"));
-            QVERIFY(fromTheTop(h, "Decine", 0) && fromTheTop(h, "Unita", 0));
-        } else {
-            // The drawing stays to be mended, and the same drawing confirmed again is a second mistake.
-            click(h, "BottoneConferma");
-            QCOMPARE(h.global("Errati"), 2);
-            QCOMPARE(h.sounds(), (QStringList{"suoni/no.wav", "suoni/no.wav"}));
-            QVERIFY(fromTheTop(h, "Decine", bars));
-            click(h, "BottoneRicomincia");
-            QVERIFY(fromTheTop(h, "Decine", 0) && fromTheTop(h, "Unita", 0));
-            QCOMPARE(h.global("NumeroEsatto"), numero);
-            QCOMPARE(h.global("Errati"), 2);
-        }
-    }
+void LunghiForm::Load() {
+    BottoneAvanti->setVisible(g.AttendiBottone != False);
+    // The limit panel chooses 99, with a question of its own; the counters then start at 0 and the
+    // question the child sees is drawn last.
+    ExerciseForm::Load();
+    AzzeraConteggio();
+    NuovaDomanda();
+}
 
-    // The number asked in words, or in digits from MenuCifre on, for every later question too.
-    void wordsOrDigits() {
-        Harness h;
-        open(h, "Form999x", 42);
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral("QUARANTADUE"));
-        QVERIFY(h.control("MenuParola").value("checked").toBool());
-        h.rnd({0.0, drawFor(7)});
-        h.run(R"({"menu": "MenuCifre"})");
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral("7"));
-        QVERIFY(!h.control("MenuParola").value("checked").toBool());
-        h.rnd({0.0});
-        click(h, "BottoneUnita", 7);
-        click(h, "BottoneConferma");
-        h.rnd({0.0, drawFor(61)});
-        click(h, "BottoneAvanti");
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral("61"));
-        // The item already checked still brings a new number.
-        h.rnd({0.0, drawFor(23)});
-        h.run(R"({"menu": "MenuCifre"})");
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral("23"));
-        h.rnd({0.0, drawFor(23)});
-        h.run(R"({"menu": "MenuParola"})");
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral("VENTITRE"));
+void LunghiForm::NascondiDisegno() {
+    for (int i = 0; i < kRighe; ++i) {
+        Decine(i)->setVisible(false);
+        Unita(i)->setVisible(false);
     }
+}
 
-    void typedAnswers_data() {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<int>("numero");
-        QTest::addColumn<QString>("how");
-        QTest::addColumn<QString>("entered");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<bool>("right");
-        auto row = [](const char* name, const char* form, int n, const char* how, const char* in,
-                      const char* out, bool right) {
-            QTest::newRow(name) << form << n << how << QString::fromUtf8(in) << QString::fromUtf8(out)
-                                << right;
-        };
-        // In digits Val reads the leading number.
-        row("leading zeros", "Form999y", 7, "type", "007", "007", true);
-        row("a blank behind", "Form999y", 7, "type", "7 ", "7 ", true);
-        row("a letter behind", "Form999y", 7, "type", "7a", "7a", true);
-        row("a letter in front", "Form999y", 7, "type", "a7", "a7", false);
-        row("the tens and units swapped", "Form999y", 46, "type", "64", "64", false);
-        // In words one spelling, capitals from the keys, blanks around forgiven.
-        row("small letters", "Form999z", 21, "type", "ventuno", "VENTUNO", true);
-        row("blanks around", "Form999z", 21, "type", "  VENTUNO ", "  VENTUNO ", true);
-        row("a blank inside", "Form999z", 21, "type", "venti uno", "VENTI UNO", false);
-        row("a full stop behind", "Form999z", 21, "type", "ventuno.", "VENTUNO.", false);
-        row("no accent", "Form999z", 23, "type", "ventitre", "VENTITRE", true);
-        row("an accent", "Form999z", 23, "type", "ventitrè", "VENTITRè", false);
-        row("blanks only", "Form999z", 21, "type", "   ", "   ", false);
-        row("pasted in small letters", "Form999z", 21, "settext", "ventuno", "ventuno", false);
-    }
-    // Enter on the empty box counts nothing; Enter held down counts once.
-    void typedAnswers() {
-        QFETCH(QString, form);
-        QFETCH(int, numero);
-        QFETCH(QString, how);
-        QFETCH(QString, entered);
-        QFETCH(QString, shown);
-        QFETCH(bool, right);
-        Harness h;
-        open(h, form, numero);
-        QCOMPARE(h.dump().value("focus").toString(), QStringLiteral("Text1"));
-        h.run(R"({"key": "Text1", "code": 13, "repeat": 2})");
-        QCOMPARE(h.global("Esatti") + h.global("Errati"), 0);
-        h.run(QStringLiteral(R"({"%1": "Text1", "text": "%2"})").arg(how, entered));
-        h.events();
-        h.rnd({0.0});
-        h.run(R"({"key": "Text1", "code": 13, "repeat": 3})");
-        QCOMPARE(h.global("Esatti"), right ? 1 : 0);
-        QCOMPARE(h.global("Errati"), right ? 0 : 1);
-        QCOMPARE(h.sounds(), QStringList{right ? "suoni/si1.wav" : "suoni/no.wav"});
-        QCOMPARE(h.text("Text1"), shown);
-        QCOMPARE(h.enabled("Text1"), !right);
-        QCOMPARE(h.enabled("BottoneAvanti"), right);
-        QCOMPARE(h.global("NumeroEsatto"), numero);
-    }
-};
+QJsonObject LunghiForm::fields() const {
+    return {{"NumeroDecine", NumeroDecine}, {"NumeroUnita", NumeroUnita}};
+}
 
-QTEST_MAIN(LongsTest)
-#include "longs.moc"
+// ---- Form999x ----
+
+Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
+    EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 210, 120, 5580, 540, Arial(20.25));
+    EtichettaNumero->setAlignment(Qt::AlignCenter);
+    EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
+
+    constexpr int x = 6120, largo = 2520;
+    BottoneUnita =
+        button(QStringLiteral("BottoneUnita"), QStringLiteral("Unità"), x, 735, largo, 735, Arial(14.25));
+    BottoneUnita->setBackColor(QColor(0x00, 0x00, 0xff));
+    BottoneDecine =
+        button(QStringLiteral("BottoneDecine"), QStringLiteral("Decine"), x, 1620, largo, 735, Arial(14.25));
+    BottoneDecine->setBackColor(QColor(0xff, 0x00, 0x00));
+    BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), x, 2505,
+                               largo, 1095, Arial(12));
+    BottoneRicomincia->setPicture(pictures::FrecciaCircolare());
+    BottoneConferma = button(QStringLiteral("BottoneConferma"), QStringLiteral("Conferma"), x, 3750, largo,
+                             1095, Arial(12));
+    BottoneConferma->setPicture(pictures::FacciaSorridente());
+
+    MenuNumero = menu(QStringLiteral("MenuNumero"), QStringLiteral("Numero in        "), nullptr, mnuStampa);
+    MenuParola = menu(QStringLiteral("MenuParola"), QStringLiteral("Parola"), MenuNumero);
+    MenuCifre = menu(QStringLiteral("MenuCifre"), QStringLiteral("Cifre"), MenuNumero);
+    MenuParola->setChecked(true);
+
+    BottoneDecine->Click = [this] { BottoneDecine_Click(); };
+    BottoneUnita->Click = [this] { BottoneUnita_Click(); };
+    BottoneRicomincia->Click = [this] { BottoneRicomincia_Click(); };
+    BottoneConferma->Click = [this] { BottoneConferma_Click(); };
+    // The check mark is the one store of the choice; either item brings a new number.
+    MenuParola->Click = [this] {
+        MenuCifre->setChecked(false);
+        MenuParola->setChecked(true);
+        NuovaDomanda();
+    };
+    MenuCifre->Click = [this] {
+        MenuParola->setChecked(false);
+        MenuCifre->setChecked(true);
+        NuovaDomanda();
+    };
+    CorniceNumeroMassimo->raise();
+}
+
+void Form999x::NuovaDomanda() {
+    CaricaColori();
+    NascondiDisegno();
+    g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
+    NumeroDecine = 0;
+    NumeroUnita = 0;
+    EtichettaNumero->setCaption(MenuParola->Checked() ? Parola(g.NumeroEsatto, g)
+                                                      : Format(g.NumeroEsatto, QStringLiteral("#,##0")));
+}
+
+// Nine of a kind at most: a tenth press changes nothing, and ten squares never turn into a bar.
+void Form999x::BottoneDecine_Click() {
+    if (NumeroDecine == kRighe) return;
+    Decine(NumeroDecine)->setVisible(true);
+    ++NumeroDecine;
+}
+
+void Form999x::BottoneUnita_Click() {
+    if (NumeroUnita == kRighe) return;
+    Unita(NumeroUnita)->setVisible(true);
+    ++NumeroUnita;
+}
+
+// The only way to take shapes off: all of them. The question and the counters stay.
+void Form999x::BottoneRicomincia_Click() {
+    NascondiDisegno();
+    NumeroDecine = 0;
+    NumeroUnita = 0;
+}
+
+// Every press is one answer; a wrong one leaves the drawing to be mended.
+void Form999x::BottoneConferma_Click() {
+    if (NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto) {
+        RispostaEsattaPoiAvanti([this] { BottoneConferma->setEnabled(false); });
+    } else {
+        RispostaErrata();
+    }
+}
+
+void Form999x::BottoneAvanti_Click() {
+    BottoneConferma->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+// ---- Form999y, Form999z ----
+
+namespace {
+
+// Val reads the leading number and stops at the first letter: 007, "7 " and 7a are all 7.
+bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
+    return Val(testo) == numero;
+}
+
+// One spelling per number, in capitals, without accent or blank inside; blanks around it are forgiven.
+bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
+    return Trim(testo) == Parola(numero, g);
+}
+
+constexpr std::array<LongsReaderMember, 2> kReaders = {{
+    {"Form999y", "Scrivi il numero in cifre", 26.25, CifreGiuste, nullptr},
+    {"Form999z", "Scrivi il numero in lettere", 12, ParolaGiusta, FiltroMaiuscole},
+}};
+
+} // namespace
+
+const LongsReaderMember* FindLongsReaderMember(const QString& form) {
+    for (const LongsReaderMember& m : kReaders)
+        if (form == QLatin1String(m.form)) return &m;
+    return nullptr;
+}
+
+LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& member)
+    : LunghiForm(program, "formStampa4", 105, 315, AspettoLettore()), member_(member) {
+    Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 5880, 2220, 5520, 375,
+                   Arial(12));
+    Label3->setAlignment(Qt::AlignCenter);
+    const bool grande = member.fontTesto > 20;
+    Text1 = textBox(QStringLiteral("Text1"), grande ? 6840 : 6120, 2700, grande ? 3600 : 5040,
+                    grande ? 855 : 495, Arial(member.fontTesto));
+    Text1->setAlignment(Qt::AlignCenter);
+    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
+    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+    CorniceNumeroMassimo->raise();
+}
+
+void LongsReaderForm::Load() {
+    LunghiForm::Load();
+    // The box is ready for the first key, as it is the first control of the screen.
+    Text1->SetFocus();
+}
+
+void LongsReaderForm::NuovaDomanda() {
+    CaricaColori();
+    Text1->setText(QString());
+    NascondiDisegno();
+    g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
+    NumeroDecine = int16_t(g.NumeroEsatto / 10);
+    NumeroUnita = int16_t(g.NumeroEsatto - 10 * NumeroDecine);
+    for (int i = 0; i < NumeroDecine && i < kRighe; ++i)
+        Decine(i)->setVisible(true);
+    for (int i = 0; i < NumeroUnita && i < kRighe; ++i)
+        Unita(i)->setVisible(true);
+}
+
+// Enter released on a box that isn't empty is one answer; held down, it is released once.
+void LongsReaderForm::Text1_KeyUp(int keyCode, int) {
+    if (keyCode != 13 || Text1->Text().isEmpty()) return;
+    if (member_.giusta(Text1->Text(), g.NumeroEsatto, g)) {
+        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
+    } else {
+        RispostaErrata();
+    }
+    if (Text1->isEnabled()) Text1->SetFocus();
+}
+
+void LongsReaderForm::BottoneAvanti_Click() {
+    Text1->setEnabled(true);
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+} // namespace contarello

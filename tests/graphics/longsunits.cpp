@@ -223,4 +223,4 @@ private slots:
 };
 
 QTEST_MAIN(LongsTest)
-#include "longs.moc"
+#include "longsunits.moc"
