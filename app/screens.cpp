@@ -7,6 +7,7 @@
 #include "numbers/stepping.h"
 #include "numbers/words.h"
 #include "shell/menus.h"
+#include "worksheets/abaco.h"
 #include "worksheets/stampa.h"
 
 namespace contarello {
@@ -64,6 +65,8 @@ std::vector<FormEntry> FormTable() {
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
+        {"formSt99a", Make<formSt99a>},
+        {"formSt99b", Make<formSt99b>},
     };
 }
 
