@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/abacus.h"
 #include "numbers/columns.h"
 #include "numbers/comparison.h"
 #include "numbers/expressions.h"
@@ -63,6 +64,10 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
+        // the abacus
+        {"Form99a", Make<Form99a>},
+        {"Form99b", Member<AbacoForm, FindAbacoMember>},
+        {"Form99b1", Member<AbacoForm, FindAbacoMember>},
         // worksheets
         {"formStampa", Make<formStampa>},
         {"formSt99a", Make<formSt99a>},

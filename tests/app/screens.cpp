@@ -17,8 +17,7 @@ namespace {
 const QSet<QString> kStillToCome = {
     "FormMenuGrafici/Command2",  "FormMenuGrafici/Command3",  "FormMenuGrafici/Command34",
     "FormMenuGrafici/Command10", "FormMenuGrafici/Command23", "FormMenuGrafici/Command11",
-    "FormMenuGrafici/Command24", "FormMenuGrafici/Command4",  "FormMenuGrafici/Command5",
-    "FormMenuGrafici/Command35", "FormMenuGrafici/Command8",  "FormMenuGrafici/Command20",
+    "FormMenuGrafici/Command24", "FormMenuGrafici/Command8",  "FormMenuGrafici/Command20",
     "FormMenuGrafici/Command9",  "FormMenuGrafici/Command25", "FormMenuGrafici/Command6",
     "FormMenuGrafici/Command7",  "FormMenuGrafici/Command30", "FormMenuGrafici/Command29",
     "FormMenuGrafici/Command28", "FormMenuGrafici/Command33", "FormMenuGrafici/Command32",
