@@ -32,7 +32,7 @@ private slots:
         QFETCH(unsigned, seed);
         const long actions = qEnvironmentVariableIsSet("CONTARELLO_MONKEY_ACTIONS")
                                  ? qEnvironmentVariable("CONTARELLO_MONKEY_ACTIONS").toLong()
-                                 : 4000;
+                                 : 6000;
         Monkey monkey(seed);
         const bool held = monkey.run(actions);
         visited_ += monkey.visited();
