@@ -1,4 +1,5 @@
 #include "app/screens.h"
+#include "graphics/abacus.h"
 #include "graphics/abacus_ops.h"
 #include "graphics/longs.h"
 #include "graphics/longsunits.h"
@@ -13,6 +14,7 @@
 #include "numbers/stepping.h"
 #include "numbers/words.h"
 #include "shell/menus.h"
+#include "worksheets/abaco.h"
 #include "worksheets/longsheets.h"
 #include "worksheets/stampa.h"
 #include "worksheets/tablesheets.h"
@@ -104,6 +106,14 @@ std::vector<FormEntry> FormTable() {
         {"formStampa", Make<formStampa>},
         {"formStampa1", Make<formStampa1>},
         {"formStampa4", Make<formStampa4>},
+        // the abacus
+        {"Form99a", Make<Form99a>},
+        {"Form99b", Member<AbacoForm, FindAbacoMember>},
+        {"Form99b1", Member<AbacoForm, FindAbacoMember>},
+        // worksheets
+        {"formStampa", Make<formStampa>},
+        {"formSt99a", Make<formSt99a>},
+        {"formSt99b", Make<formSt99b>},
     };
 }
 
