@@ -72,19 +72,22 @@ std::vector<FormEntry> FormTable() {
         {"FormCol2", Member<FormAddizione, FindColumnMember>},
         {"FormCol3", Member<FormSottrazione, FindColumnMember>},
         {"FormCol4", Member<FormSottrazione, FindColumnMember>},
-        // longs and units: additions and subtractions
+        // longs and units
+        {"Form999x", Make<Form999x>},
+        {"Form999y", Member<LongsReaderForm, FindLongsReaderMember>},
+        {"Form999z", Member<LongsReaderForm, FindLongsReaderMember>},
         {"FormGraf", Member<LongsAddForm, FindLongsAddMember>},
         {"FormGraf1", Member<LongsAddForm, FindLongsAddMember>},
         {"FormGrafMeno", Member<LongsSubForm, FindLongsSubMember>},
         {"FormGrafMeno1", Member<LongsSubForm, FindLongsSubMember>},
-        // additions and subtractions on the abacus
+        // the abacus
+        {"Form99a", Make<Form99a>},
+        {"Form99b", Member<AbacoForm, FindAbacoMember>},
+        {"Form99b1", Member<AbacoForm, FindAbacoMember>},
         {"Form99c", Member<AbacoSommaForm, FindAbacoSommaMember>},
         {"Form99c1", Member<AbacoSommaForm, FindAbacoSommaMember>},
         {"Form99d", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
         {"Form99d1", Member<AbacoDifferenzaForm, FindAbacoDifferenzaMember>},
-        // number lines
-        {"FormGradi20", Member<NumberLineForm, FindNumberLineMember>},
-        {"FormGradi20bis", Member<NumberLineForm, FindNumberLineMember>},
         // the table of numbers 0 to 99
         {"Form100a", Member<TableStepForm, FindTableStepMember>},
         {"Form100b", Member<TableStepForm, FindTableStepMember>},
@@ -94,24 +97,15 @@ std::vector<FormEntry> FormTable() {
         {"Form100e", Member<TableStepForm, FindTableStepMember>},
         {"Form100Trova", Make<Form100Trova>},
         {"Form100Ricon", Make<Form100Ricon>},
-        // worksheets
-        {"formStampa", Make<formStampa>},
-        {"formStampa2", Make<formStampa2>},
-        {"formStampa3", Make<formStampa3>},
-        // longs and units
-        {"Form999x", Make<Form999x>},
-        {"Form999y", Member<LongsReaderForm, FindLongsReaderMember>},
-        {"Form999z", Member<LongsReaderForm, FindLongsReaderMember>},
-        // worksheets
+        // number lines
+        {"FormGradi20", Member<NumberLineForm, FindNumberLineMember>},
+        {"FormGradi20bis", Member<NumberLineForm, FindNumberLineMember>},
+        // worksheets: the text ones, then the drawn ones
         {"formStampa", Make<formStampa>},
         {"formStampa1", Make<formStampa1>},
+        {"formStampa2", Make<formStampa2>},
+        {"formStampa3", Make<formStampa3>},
         {"formStampa4", Make<formStampa4>},
-        // the abacus
-        {"Form99a", Make<Form99a>},
-        {"Form99b", Member<AbacoForm, FindAbacoMember>},
-        {"Form99b1", Member<AbacoForm, FindAbacoMember>},
-        // worksheets
-        {"formStampa", Make<formStampa>},
         {"formSt99a", Make<formSt99a>},
         {"formSt99b", Make<formSt99b>},
     };

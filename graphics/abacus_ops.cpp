@@ -164,7 +164,10 @@ void AbacoOpForm::Load() {
 }
 
 QJsonObject AbacoOpForm::fields() const {
-    return {{"NumeroUnita", NumeroUnita}, {"NumeroDecine", NumeroDecine}, {"Fase", Fase}};
+    return {{"NumeroUnita", NumeroUnita},
+            {"NumeroDecine", NumeroDecine},
+            {"Fase", Fase},
+            {"NumeroEsatto", RispostaAttesa()}};
 }
 
 void AbacoOpForm::MostraPalline() {

@@ -4,6 +4,7 @@
 // the numbers ask for it, and writes the result. Four screens, two operations, each with and
 // without the change.
 
+#include "core/globals.h"
 #include "shell/exercise.h"
 
 namespace contarello {
@@ -71,6 +72,8 @@ protected:
     virtual void Controlla() = 0;
     virtual void BottoneCambio_Click() = 0;
     virtual void Text1_KeyUp(int keyCode) = 0;
+    // The number the result box expects: the sum, or what is left.
+    virtual int RispostaAttesa() const = 0;
 
     const AbacoOpMember& member_;
     Label* EtichettaNumero;
@@ -102,6 +105,7 @@ protected:
     void Controlla() override;
     void BottoneCambio_Click() override;
     void Text1_KeyUp(int keyCode) override;
+    int RispostaAttesa() const override { return g.Meta; }
 
 private:
     void Ricomincia();
@@ -120,6 +124,7 @@ protected:
     void Controlla() override;
     void BottoneCambio_Click() override;
     void Text1_KeyUp(int keyCode) override;
+    int RispostaAttesa() const override { return g.Termine1; }
 
 private:
     void Ricomincia();

@@ -187,11 +187,7 @@ ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)
         auto* b = button(QLatin1String(v.control), QString::fromUtf8(v.caption),
                          kColumnLeft + v.column * kColumnStep, top, kButtonWidth, kButtonHeight, f);
         const QString target = QLatin1String(v.form);
-        // A screen that isn't there yet leaves the menu where it is.
-        b->Click = [this, target] {
-            if (!app.nav.exists(target)) return;
-            GoTo(target);
-        };
+        b->Click = [this, target] { GoTo(target); };
     }
     auto* torna = button(QStringLiteral("Command1"), QStringLiteral("Torna al menù generale"),
                          kColumnLeft + layout.command1Column * kColumnStep, layout.command1Top, kButtonWidth,

@@ -13,9 +13,6 @@ using contarello::test::Harness;
 
 namespace {
 
-// The graphic exercises not built yet: their menu buttons still leave the menu where it is.
-const QSet<QString> kStillToCome = {};
-
 const QSet<QString> kNotExercises = {"FormAvvio", "FormMenu", "FormMenuNumeri", "FormMenuGrafici"};
 
 QStringList names() {
@@ -50,8 +47,7 @@ private slots:
                 Harness one;
                 one.run(QStringLiteral(R"({"show": "%1"})").arg(menu));
                 one.run(QStringLiteral(R"({"click": "%1"})").arg(b));
-                const bool opened = one.form() != menu;
-                QVERIFY2(opened != kStillToCome.contains(menu + '/' + b), qPrintable(menu + '/' + b));
+                QVERIFY2(one.form() != menu, qPrintable(menu + '/' + b + " opens nothing"));
             }
         }
     }

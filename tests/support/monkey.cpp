@@ -38,7 +38,7 @@ int esattoOf(const QJsonObject& dump) {
 
 } // namespace
 
-Monkey::Monkey(unsigned seed) : rng_(seed) {}
+Monkey::Monkey(unsigned seed, std::vector<QJsonObject> route) : rng_(seed), route_(std::move(route)) {}
 
 QJsonObject Monkey::execute(const QJsonObject& command) {
     recent_.push_back(QJsonDocument(command).toJson(QJsonDocument::Compact));
@@ -68,6 +68,9 @@ bool Monkey::step() {
         engine_ = std::make_unique<DriverEngine>(QStringLiteral("/app"));
         recent_.clear();
         execute({{"seed", int(rng_() % 100000)}});
+        for (const QJsonObject& command : route_)
+            if (!execute(command).value(QStringLiteral("ok")).toBool())
+                return fail(QStringLiteral("the way to the screen is closed"));
         before = execute({{"dump", true}});
         if (!check(before)) return false;
     }

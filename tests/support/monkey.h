@@ -18,7 +18,9 @@ namespace contarello::test {
 
 class Monkey {
 public:
-    explicit Monkey(unsigned seed);
+    // route: what a user does at each start of the program before the monkey takes over, such as
+    // the clicks from the start screen to one exercise.
+    explicit Monkey(unsigned seed, std::vector<QJsonObject> route = {});
 
     // Runs so many actions; false as soon as an invariant fails, with failure() telling which,
     // after what.
@@ -44,6 +46,7 @@ private:
     bool chance(double p) { return std::uniform_real_distribution<double>(0, 1)(rng_) < p; }
 
     std::mt19937 rng_;
+    std::vector<QJsonObject> route_;
     std::unique_ptr<DriverEngine> engine_;
     std::deque<QByteArray> recent_;  // the last commands, for the report
     std::map<QString, int> clicks_;  // "Screen/Control": how often it was acted on
