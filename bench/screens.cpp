@@ -207,11 +207,74 @@ BENCHMARK(BM_LargestSheet)->DenseRange(1, 24)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
+// Every graphic exercise: opened from its menu and painted, then its buttons and material clicked in
+// turn, each click answered and painted.
+std::unique_ptr<DriverEngine> OnGraphicMenu() {
+    auto engine = std::make_unique<DriverEngine>();
+    engine->execute(cmd(R"({"click": "BottoneAvvio"})"));
+    engine->execute(cmd(R"({"click": "Command2"})"));
+    return engine;
+}
+
+void BM_OpenGraphic(benchmark::State& state, QString button) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto engine = OnGraphicMenu();
+        state.ResumeTiming();
+        engine->execute({{"click", button}});
+        engine->program().nav.active()->repaint();
+        state.PauseTiming();
+        engine.reset();
+        settle();
+        state.ResumeTiming();
+    }
+}
+
+void BM_ClickGraphic(benchmark::State& state, QString button) {
+    auto engine = OnGraphicMenu();
+    engine->execute({{"click", button}});
+    const QString screen = engine->program().nav.active()->name();
+    QStringList targets;
+    const QJsonObject controls = engine->execute(cmd(R"({"dump": true})")).value("controls").toObject();
+    for (auto it = controls.begin(); it != controls.end(); ++it) {
+        const QString kind = it.value().toObject().value("kind").toString();
+        if ((kind == "button" || kind == "shape" || kind == "label") &&
+            it.value().toObject().value("visible").toBool())
+            targets << it.key();
+    }
+    qsizetype next = 0;
+    for (auto _ : state) {
+        if (targets.isEmpty()) break;
+        engine->execute({{"click", targets[next++ % targets.size()]}});
+        engine->program().nav.active()->repaint();
+        state.PauseTiming();
+        if (engine->program().nav.active()->name() != screen) { // a message box or a worksheet took over
+            engine = OnGraphicMenu();
+            engine->execute({{"click", button}});
+        }
+        state.ResumeTiming();
+    }
+}
+
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     PrepareToolkit(app);
     benchmark::RegisterBenchmark("BM_StartToFormAvvio", BM_StartToFormAvvio)->Unit(benchmark::kMicrosecond);
+    {
+        auto engine = OnGraphicMenu();
+        const QJsonObject controls = engine->execute(cmd(R"({"dump": true})")).value("controls").toObject();
+        for (const QString& b : controls.keys()) {
+            if (!b.startsWith("Command") || b == "Command1") continue;
+            auto probe = OnGraphicMenu();
+            probe->execute({{"click", b}});
+            const std::string screen = probe->program().nav.active()->name().toStdString();
+            benchmark::RegisterBenchmark(("BM_OpenGraphic/" + screen).c_str(), BM_OpenGraphic, b)
+                ->Unit(benchmark::kMicrosecond);
+            benchmark::RegisterBenchmark(("BM_ClickGraphic/" + screen).c_str(), BM_ClickGraphic, b)
+                ->Unit(benchmark::kMicrosecond);
+        }
+    }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
