@@ -110,25 +110,6 @@ void BM_AnsweredQuestion(benchmark::State& state) {
 }
 BENCHMARK(BM_AnsweredQuestion)->Unit(benchmark::kMicrosecond);
 
-// The graphic menu to the number line "con decine fisse": 21 ticks, their numbers and the first
-// red tick, made, shown and painted.
-void BM_MenuToNumberLine(benchmark::State& state) {
-    for (auto _ : state) {
-        state.PauseTiming();
-        auto engine = std::make_unique<DriverEngine>();
-        engine->execute(cmd(R"({"click": "BottoneAvvio"})"));
-        engine->execute(cmd(R"({"click": "Command2"})"));
-        state.ResumeTiming();
-        engine->execute(cmd(R"({"click": "Command12"})"));
-        engine->program().nav.active()->repaint();
-        state.PauseTiming();
-        engine.reset();
-        settle();
-        state.ResumeTiming();
-    }
-}
-BENCHMARK(BM_MenuToNumberLine)->Unit(benchmark::kMicrosecond);
-
 // One tick named and the next one marked; the fifth answer of a line draws a new line at once.
 void BM_AnsweredTick(benchmark::State& state) {
     DriverEngine engine;
@@ -149,25 +130,6 @@ void BM_AnsweredTick(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_AnsweredTick)->Unit(benchmark::kMicrosecond);
-
-// The table of 0 to 99: from the graphic menu to the first question, a hundred cells made, shown
-// and painted.
-void BM_MenuToTable(benchmark::State& state) {
-    for (auto _ : state) {
-        state.PauseTiming();
-        auto engine = std::make_unique<DriverEngine>();
-        engine->execute(cmd(R"({"click": "BottoneAvvio"})"));
-        engine->execute(cmd(R"({"click": "Command2"})"));
-        state.ResumeTiming();
-        engine->execute(cmd(R"({"click": "Command30"})"));
-        engine->program().nav.active()->repaint();
-        state.PauseTiming();
-        engine.reset();
-        settle();
-        state.ResumeTiming();
-    }
-}
-BENCHMARK(BM_MenuToTable)->Unit(benchmark::kMicrosecond);
 
 // A right click on the table, "avanti", and the next question painted.
 void BM_TableAnswered(benchmark::State& state) {
