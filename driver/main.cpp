@@ -2,6 +2,7 @@
 // on standard output. Runs without a display.
 
 #include "driver/engine.h"
+#include "shell/controls.h"
 #include "shell/qtservices.h"
 
 #include <QApplication>
@@ -13,6 +14,10 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     contarello::PrepareToolkit(application);
+    // Scale 1 unless told otherwise, so that scripts see the screens as laid out.
+    bool scaled = false;
+    const double factor = qEnvironmentVariable("CONTARELLO_SCALE").toDouble(&scaled);
+    if (scaled && factor > 0) contarello::SetScaleFactor(factor);
     contarello::DriverEngine engine(QCoreApplication::applicationDirPath());
     std::string line;
     while (std::getline(std::cin, line)) {

@@ -76,6 +76,24 @@ private slots:
         }
     }
 
+    // F11 fills the display with the screen's own colour and keeps the screen, unchanged, in the middle.
+    void f11ShowsTheScreenCentred() {
+        Harness h;
+        h.run(R"({"show": "Form1"})");
+        Form* form = h.engine.program().nav.find("Form1");
+        const QSize size = form->size();
+        const QPoint at = form->client()->mapTo(form, QPoint(0, 0));
+        form->activateWindow();
+        QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
+        QTRY_VERIFY(form->isFullScreen());
+        QVERIFY(form->width() >= size.width());
+        const QPoint centred = form->client()->mapTo(form, QPoint(0, 0));
+        QCOMPARE(centred.x() - at.x(), (form->width() - size.width()) / 2);
+        QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
+        QTRY_VERIFY(!form->isFullScreen());
+        QCOMPARE(form->size(), size);
+    }
+
     void textAndPicturesGrowWithTheFactor() {
         SetScaleFactor(2);
         const QFont big = Arial(18);
