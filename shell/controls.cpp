@@ -116,8 +116,10 @@ public:
 };
 
 // Halfway between two colours: how a disabled caption fades into what it stands on.
-QColor mescola(QColor a, QColor b) {
-    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+// a and b mixed, with the share of a given.
+QColor mescola(QColor a, QColor b, double quota = 0.5) {
+    auto m = [quota](int x, int y) { return int(std::lround(x * quota + y * (1 - quota))); };
+    return QColor(m(a.red(), b.red()), m(a.green(), b.green()), m(a.blue(), b.blue()));
 }
 
 // A picture in light greys, its shape kept: a button that can't be pressed looks switched off,
@@ -336,14 +338,20 @@ void CommandButton::paintEvent(QPaintEvent*) {
     QStyleOptionButton opt;
     opt.initFrom(this);
     opt.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
-    if (hasBackColor()) opt.palette.setColor(QPalette::Button, backColor_);
+    // A coloured button that can't be pressed yet fades towards grey and greys its caption, so a child
+    // sees at once which of the red and blue buttons is live.
+    const QColor spenta(0x80, 0x80, 0x80);
+    if (hasBackColor())
+        opt.palette.setColor(QPalette::Button,
+                             isEnabled() ? backColor_ : mescola(backColor_, QColor(0xe4, 0xe4, 0xe4), 0.3));
     style()->drawControl(QStyle::CE_PushButtonBevel, &opt, &p, this);
 
     QRect area = rect().adjusted(4, 3, -4, -3);
     if (isDown()) area.translate(1, 1);
     p.setFont(font());
-    p.setPen(isEnabled() ? palette().color(QPalette::ButtonText)
-                         : palette().color(QPalette::Disabled, QPalette::ButtonText));
+    p.setPen(isEnabled()      ? palette().color(QPalette::ButtonText)
+             : hasBackColor() ? spenta
+                              : palette().color(QPalette::Disabled, QPalette::ButtonText));
     // A picture stands above the caption; the caption wraps at blanks, as long menu captions need.
     if (!picture_.isNull()) {
         // A caption of two lines takes its room first; the picture shrinks into what is left.
