@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+#include <array>
+
 using namespace contarello;
 using contarello::test::Harness;
 
@@ -17,22 +19,9 @@ double v(int k, int n) {
     return (k + 0.5) / n;
 }
 
-// A random source stuck on one value, as a broken one could be.
-class FixedRandom : public Random {
-public:
-    explicit FixedRandom(double x) : x_(x) {}
-    double Rnd() override {
-        ++calls;
-        return x_;
-    }
-    void Randomize() override {}
-    int calls = 0;
-
-private:
-    double x_;
-};
-
-const QString kRisultato = QStringLiteral("Inserisci il risultato.");
+QString testo(const Operazione& o) {
+    return QStringLiteral("%1 = %2 + %3").arg(o.Meta).arg(o.Termine1).arg(o.Termine2);
+}
 
 // The screen opened straight after the start screen, whose colour takes the first draw; then the
 // screen's colour and its draws.
@@ -52,317 +41,225 @@ void clicca(Harness& h, const QString& name, int volte = 1) {
         h.run(QStringLiteral(R"({"click": "%1"})").arg(name));
 }
 
-void invio(Harness& h, const QString& text) {
-    h.run(QStringLiteral(R"({"settext": "Risultato", "text": "%1"})").arg(text));
-    h.run(R"({"key": "Risultato", "code": 13})");
+// The screen in one line: the instruction; for each row of shapes, which show (1) and which don't
+// (0) up to the last one showing; the change's long; the live buttons; the result box when it shows;
+// then the sounds and messages since the last look.
+QString stato(Harness& h) {
+    const QJsonObject c = h.dump().value("controls").toObject();
+    auto on = [&c](const QString& n, const char* key) { return c.value(n).toObject().value(key).toBool(); };
+    QStringList s{c.value("Label3").toObject().value("caption").toString()};
+    for (const QString row : {"Decina1", "Unita1", "Decina2", "Unita2"}) {
+        QString bits;
+        for (int i = 0; i < 10; ++i)
+            bits += on(QStringLiteral("%1(%2)").arg(row).arg(i), "visible") ? '1' : '0';
+        while (bits.endsWith('0'))
+            bits.chop(1);
+        if (!bits.isEmpty()) s << row + ' ' + bits;
+    }
+    if (on("DecinaCambio", "visible")) s << "DecinaCambio";
+    for (const QString b : {"BotDecine1", "BotUnita1", "BotDecine2", "BotUnita2", "Cambio"})
+        if (on(b, "enabled")) s << b;
+    if (on("Risultato", "visible")) s << (on("Risultato", "enabled") ? "Risultato" : "Risultato off");
+    for (const QJsonValue e : h.events()) {
+        const QJsonObject o = e.toObject();
+        if (o["event"] == "sound") s << o["file"].toString().section('/', -1);
+        if (o["event"] == "msgbox") s << o["text"].toString() + ' ' + QString::number(o["style"].toInt());
+    }
+    return s.join(" | ");
 }
 
-// How many shapes of an array show.
-int visibili(Harness& h, const QString& name, int n) {
-    int k = 0;
-    for (int i = 0; i < n; ++i)
-        k += h.visible(QStringLiteral("%1(%2)").arg(name).arg(i));
-    return k;
+QString dopo(Harness& h, const QString& name, int volte = 1) {
+    clicca(h, name, volte);
+    return stato(h);
 }
 
-int campo(Harness& h, const char* name) {
-    return h.dump().value("fields").toObject().value(QLatin1String(name)).toInt();
-}
+const QString kPrimoAddendo = QStringLiteral("Forma il primo addendo | BotDecine1 | BotUnita1");
 
 } // namespace
 
 class LongsTest : public QObject {
     Q_OBJECT
 private slots:
-    void senzaCambio_data();
-    void senzaCambio();
-    void sorgenteBloccata_data();
-    void sorgenteBloccata();
-    void molteEstrazioni();
-    void addizioneConCambio();
-    void addizioneBordi();
-    void sottrazioneConCambio();
-    void sottrazioneSenzaPassi_data();
-    void sottrazioneSenzaPassi();
-    void ricominciaSottrazione();
-    void schermi_data();
-    void schermi();
-};
-
-void LongsTest::senzaCambio_data() {
-    QTest::addColumn<QList<double>>("draws");
-    QTest::addColumn<int>("meta");
-    QTest::addColumn<int>("termine1");
-    QTest::newRow("first try") << QList<double>{v(5, 10), v(8, 10), v(2, 5), v(3, 8)} << 58 << 23;
-    // 0, 1, 10 and 11 are drawn again before any first number is tried; then 52 with 0 tried once.
-    QTest::newRow("unfit meta, then a zero")
-        << QList<double>{0.0,      0.0,      0.0,      v(1, 10), v(1, 10), 0.0,     v(1, 10),
-                         v(1, 10), v(5, 10), v(2, 10), 0.0,      0.0,      v(2, 5), v(1, 2)}
-        << 52 << 21;
-    // Units 0: the first number is whole tens.
-    QTest::newRow("no units") << QList<double>{v(4, 10), 0.0, v(3, 4), 0.5} << 40 << 30;
-}
-
-void LongsTest::senzaCambio() {
-    QFETCH(QList<double>, draws);
-    QFETCH(int, meta);
-    QFETCH(int, termine1);
-    ScriptedRandom rnd;
-    for (double x : draws)
-        rnd.queue(x);
-    const Operazione o = OperazioneSenzaCambio(rnd);
-    QCOMPARE(o.Meta, meta);
-    QCOMPARE(o.Termine1, termine1);
-    QCOMPARE(o.Termine2, meta - termine1);
-    QCOMPARE(rnd.pending(), size_t(0));
-}
-
-void LongsTest::sorgenteBloccata_data() {
-    QTest::addColumn<double>("x");
-    QTest::newRow("meta 0") << 0.0;
-    QTest::newRow("meta 11") << 0.15;
-    QTest::newRow("first number 0 under 22") << 0.25;
-}
-
-// A source that never gives a fit draw ends on the fixed operation after a bounded number of draws.
-void LongsTest::sorgenteBloccata() {
-    QFETCH(double, x);
-    FixedRandom rnd(x);
-    const Operazione o = OperazioneSenzaCambio(rnd);
-    QCOMPARE(o.Meta, kOperazioneDiRiserva.Meta);
-    QCOMPARE(o.Termine1, kOperazioneDiRiserva.Termine1);
-    QCOMPARE(o.Termine2, kOperazioneDiRiserva.Termine2);
-    QVERIFY(rnd.calls < 20000);
-}
-
-// Seeded draws: no digit of the first number above the one of Meta; the free draw in its range
-// also under the lowest limits.
-void LongsTest::molteEstrazioni() {
-    ScriptedRandom rnd(nullptr, 3);
-    for (int i = 0; i < 5000; ++i) {
-        const Operazione o = OperazioneSenzaCambio(rnd);
-        QVERIFY(o.Termine1 >= 1 && o.Termine2 >= 1 && o.Termine1 + o.Termine2 == o.Meta);
-        QVERIFY(o.Termine1 / 10 <= o.Meta / 10 && o.Termine1 % 10 <= o.Meta % 10);
+    // The draws of an operation without change; a source stuck on an unfit draw (Meta 0, Meta 11, a
+    // first number 0 under 22) ends on the fixed operation, well before its draws run out.
+    void senzaCambio_data() {
+        QTest::addColumn<QList<double>>("draws");
+        QTest::addColumn<QString>("operazione");
+        QTest::newRow("first try") << QList<double>{v(5, 10), v(8, 10), v(2, 5), v(3, 8)} << "58 = 23 + 35";
+        // 0, 1, 10 and 11 are drawn again before any first number is tried; then 52 with 0 tried once.
+        QTest::newRow("unfit meta, then a zero")
+            << QList<double>{0.0,      0.0,      0.0,      v(1, 10), v(1, 10), 0.0,     v(1, 10),
+                             v(1, 10), v(5, 10), v(2, 10), 0.0,      0.0,      v(2, 5), v(1, 2)}
+            << "52 = 21 + 31";
+        QTest::newRow("no units") << QList<double>{v(4, 10), 0.0, v(3, 4), 0.5} << "40 = 30 + 10";
+        for (double x : {0.0, 0.15, 0.25})
+            QTest::addRow("stuck on %g", x) << QList<double>(20000, x) << testo(kOperazioneDiRiserva);
     }
-    for (int limite : {99, 20, 19}) {
-        for (int i = 0; i < 2000; ++i) {
-            const Operazione o = OperazioneLibera(rnd, limite);
-            QVERIFY(o.Meta >= 19 && o.Meta <= std::max(limite - 1, 20));
-            QVERIFY(o.Termine1 >= 5 && o.Termine2 >= 6 && o.Termine1 + o.Termine2 == o.Meta);
+    void senzaCambio() {
+        QFETCH(QList<double>, draws);
+        ScriptedRandom rnd;
+        for (double x : draws)
+            rnd.queue(x);
+        QTEST(testo(OperazioneSenzaCambio(rnd)), "operazione");
+        QCOMPARE(rnd.pending() == 0, draws.size() < 20000);
+    }
+
+    // Seeded draws: no digit of the first number above the one of Meta; the free draw in its range,
+    // also under the lowest limits.
+    void molteEstrazioni() {
+        ScriptedRandom rnd(nullptr, 3);
+        for (int i = 0; i < 6000; ++i) {
+            const Operazione o = OperazioneSenzaCambio(rnd);
+            QVERIFY(o.Termine1 >= 1 && o.Termine2 >= 1 && o.Termine1 + o.Termine2 == o.Meta);
+            QVERIFY(o.Termine1 / 10 <= o.Meta / 10 && o.Termine1 % 10 <= o.Meta % 10);
+            const int limite = std::array{99, 20, 19}[i % 3];
+            const Operazione l = OperazioneLibera(rnd, limite);
+            QVERIFY(l.Meta >= 19 && l.Meta <= std::max(limite - 1, 20));
+            QVERIFY(l.Termine1 >= 5 && l.Termine2 >= 6 && l.Termine1 + l.Termine2 == l.Meta);
         }
     }
-}
 
-// 27 + 18: the first addend, the second, the change of 7 + 8 squares, a wrong and a right result.
-void LongsTest::addizioneConCambio() {
-    Harness h;
-    apri(h, "FormGraf", {v(25, 79), v(22, 35)});
-    QCOMPARE(h.caption("EtNumero"), " 27 +  18 =");
-    QCOMPARE(h.caption("Label3"), "Forma il primo addendo");
-    QVERIFY(!h.visible("Risultato") && !h.enabled("BotDecine2") && !h.enabled("Cambio"));
-    clicca(h, "BotDecine1", 2);
-    clicca(h, "BotUnita2"); // not yet: nothing
-    QCOMPARE(visibili(h, "Unita2", 9), 0);
-    h.sounds();
-    clicca(h, "BotUnita1", 7);
-    QCOMPARE(h.caption("Label3"), "Forma il secondo addendo");
-    QCOMPARE(h.sounds(), QStringList{"suoni/si.wav"});
-    QVERIFY(!h.enabled("BotDecine1") && h.enabled("BotDecine2"));
-    clicca(h, "BotUnita2", 8);
-    QVERIFY(h.sounds().isEmpty());
-    clicca(h, "BotDecine2");
-    QCOMPARE(h.caption("Label3"), "Ci sono almeno 10 unità.\r\nEsegui il cambio.");
-    QCOMPARE(h.sounds(), QStringList{"suoni/si.wav"});
-    QVERIFY(h.enabled("Cambio") && !h.visible("Risultato") && !h.enabled("BotUnita2"));
+    // 27 + 18: the first addend, the second, the change of 7 + 8 squares, a wrong and a right result.
+    void addizioneConCambio() {
+        Harness h;
+        apri(h, "FormGraf", {v(25, 79), v(22, 35)});
+        QCOMPARE(h.caption("EtNumero"), " 27 +  18 =");
+        QCOMPARE(stato(h), kPrimoAddendo);
+        clicca(h, "BotDecine1", 2);
+        clicca(h, "BotUnita2"); // not yet: nothing
+        QCOMPARE(dopo(h, "BotUnita1", 7),
+                 "Forma il secondo addendo | Decina1 11 | Unita1 1111111 | BotDecine2 | BotUnita2 | si.wav");
+        clicca(h, "BotUnita2", 8);
+        QCOMPARE(dopo(h, "BotDecine2"), "Ci sono almeno 10 unità.\r\nEsegui il cambio. | Decina1 11 | "
+                                        "Unita1 1111111 | Decina2 1 | Unita2 11111111 | Cambio | si.wav");
+        // All 7 squares of the first row and the first 3 of the second go; the counters stay.
+        QCOMPARE(dopo(h, "Cambio"), "Inserisci il risultato. | Decina1 11 | Decina2 1 | Unita2 00011111 | "
+                                    "DecinaCambio | Cambio | Risultato");
+        QCOMPARE(h.dump().value("focus").toString(), "Risultato");
 
-    clicca(h, "Cambio");
-    QCOMPARE(visibili(h, "Unita1", 9), 0);
-    QCOMPARE(visibili(h, "Unita2", 9), 5);
-    QVERIFY(!h.visible("Unita2(2)") && h.visible("Unita2(3)") && h.visible("DecinaCambio"));
-    QCOMPARE(h.caption("Label3"), kRisultato);
-    QCOMPARE(h.dump().value("focus").toString(), "Risultato");
-    QCOMPARE(campo(h, "NumeroUnita1") + campo(h, "NumeroUnita2"), 15);
-
-    invio(h, "4 4");
-    QCOMPARE(h.caption("EtichettaErrati"), " 1");
-    QJsonArray seguito;
-    for (const QJsonValue e : h.events())
-        if (e.toObject()["event"] == "msgbox" || e.toObject()["event"] == "sound") seguito.append(e);
-    QCOMPARE(seguito.size(), 3); // the wrong sound, the message, the wrong sound again
-    QCOMPARE(seguito[0].toObject()["file"].toString(), "suoni/no.wav");
-    QCOMPARE(seguito[1].toObject()["text"].toString(), "Controlla esattamente il risultato");
-    QCOMPARE(seguito[1].toObject()["style"].toInt(), 16);
-    QCOMPARE(seguito[2].toObject()["file"].toString(), "suoni/no.wav");
-    QCOMPARE(h.text("Risultato"), "4 4");
-    invio(h, "45");
-    QCOMPARE(h.caption("EtichettaEsatti"), " 1");
-    QVERIFY(h.visible("ComandoIconaSi") && !h.visible("ComandoIconaNo"));
-    QVERIFY(!h.enabled("Risultato") && h.enabled("BottoneAvanti"));
-    h.rnd({0.0, v(10, 79), v(3, 20)});
-    clicca(h, "BottoneAvanti");
-    QCOMPARE(h.caption("EtNumero"), " 8 +  22 =");
-    QVERIFY(h.enabled("Risultato") && !h.visible("Risultato") && !h.visible("DecinaCambio"));
-    QCOMPARE(h.caption("Label3"), "Forma il primo addendo");
-}
-
-// 20 + 15 without change: no units in the first addend, a row stopped at nine, letters, Enter held;
-// without "avanti" the right result goes straight on.
-void LongsTest::addizioneBordi() {
-    Harness h;
-    apri(h, "FormGraf1", {v(3, 10), v(5, 10), v(2, 3), 0.0}, false);
-    QCOMPARE(h.caption("EtNumero"), " 20 +  15 =");
-    clicca(h, "BotDecine1", 2); // the row is finished without a square
-    QCOMPARE(h.caption("Label3"), "Forma il secondo addendo");
-    clicca(h, "BotDecine2");
-    clicca(h, "BotUnita2", 5);
-    QCOMPARE(h.caption("Label3"), kRisultato); // 5 units in all: no change, straight to the result
-    QVERIFY(h.visible("Risultato") && !h.dump().value("controls").toObject().contains("Cambio"));
-
-    invio(h, "abc");
-    QCOMPARE(h.caption("EtichettaErrati"), " 1");
-    h.run(R"({"key": "Risultato", "code": 13, "repeat": 5})");
-    QCOMPARE(h.caption("EtichettaErrati"), " 2");
-    h.run(R"({"key": "Risultato", "code": 65})"); // any other key judges nothing
-    QCOMPARE(h.caption("EtichettaErrati"), " 2");
-
-    // Ricomincia keeps the question; a row past its number stays silent; nine is the most.
-    clicca(h, "BottoneRicomincia");
-    QCOMPARE(h.caption("Label3"), "Forma il primo numero in alto");
-    QVERIFY(!h.visible("Risultato") && visibili(h, "Unita2", 9) == 0 && visibili(h, "Decina1", 9) == 0);
-    h.sounds();
-    clicca(h, "BotUnita1", 12);
-    QCOMPARE(visibili(h, "Unita1", 9), 9);
-    QCOMPARE(campo(h, "NumeroUnita1"), 9);
-    QVERIFY(h.sounds().isEmpty() && h.events("msgbox").isEmpty());
-    QCOMPARE(h.caption("Label3"), "Forma il primo numero in alto");
-
-    clicca(h, "BottoneRicomincia");
-    clicca(h, "BotDecine1", 2);
-    clicca(h, "BotDecine2");
-    clicca(h, "BotUnita2", 5);
-    h.rnd({0.0, 0.0, v(4, 10), v(5, 10), v(1, 4), v(2, 5)});
-    invio(h, "35");
-    QCOMPARE(h.caption("EtichettaEsatti"), " 1");
-    QCOMPARE(h.caption("EtNumero"), " 12 +  33 =");
-    QVERIFY(h.enabled("Risultato") && !h.visible("Risultato"));
-}
-
-// 52 - 27: 5 longs and 2 squares, one long changed, 7 squares and 2 longs clicked away.
-void LongsTest::sottrazioneConCambio() {
-    Harness h;
-    apri(h, "FormGrafMeno", {v(32, 79), v(22, 42)});
-    QCOMPARE(h.caption("EtNumero"), " 52 -  27 =");
-    QCOMPARE(h.caption("Label3"), "Forma il primo numero");
-    clicca(h, "BotUnita1", 2);
-    clicca(h, "Unita1(0)"); // not clickable while the number is built
-    QCOMPARE(visibili(h, "Unita1", 9), 2);
-    clicca(h, "BotDecine1", 5);
-    QCOMPARE(h.caption("Label3"),
-             "Non hai unità sufficienti. Premi il bottone cambio per cambiare una decina in unità.");
-    QVERIFY(h.enabled("Cambio") && !h.enabled("BotDecine1") && !h.enabled("BotUnita1"));
-    QCOMPARE(h.sounds(), (QStringList{"suoni/si.wav", "suoni/si.wav", "suoni/si.wav"}));
-
-    clicca(h, "Cambio");
-    QVERIFY(!h.visible("Decina1(4)") && h.visible("Decina1(3)") && !h.enabled("Cambio"));
-    QCOMPARE(visibili(h, "Unita1", 9) + visibili(h, "Unita2", 10), 12);
-    QCOMPARE(campo(h, "NumeroUnita"), 12);
-    QCOMPARE(h.caption("Label3"), "Clicca con il mouse sulle sulle unità da eliminare.");
-    clicca(h, "Decina1(0)"); // the longs wait their turn
-    QCOMPARE(visibili(h, "Decina1", 9), 4);
-    for (const char* s : {"Unita2(9)", "Unita1(0)", "Unita2(0)", "Unita2(4)", "Unita1(1)", "Unita2(1)"})
-        clicca(h, s);
-    clicca(h, "Unita2(0)"); // already gone
-    QCOMPARE(campo(h, "NumeroUnita"), 6);
-    clicca(h, "Unita2(2)");
-    QCOMPARE(h.caption("Label3"), "Clicca con il mouse sulle sulle decine da eliminare.");
-    QCOMPARE(visibili(h, "Unita1", 9) + visibili(h, "Unita2", 10), 5);
-    QVERIFY(!h.enabled("Unita2(3)"));
-    clicca(h, "Decina1(3)");
-    clicca(h, "Decina1(0)");
-    QCOMPARE(h.caption("Label3"), kRisultato);
-    QVERIFY(h.visible("Risultato"));
-    QCOMPARE(visibili(h, "Decina1", 9), 2);
-    invio(h, "25");
-    QCOMPARE(h.caption("EtichettaEsatti"), " 1");
-    QVERIFY(h.events("msgbox").isEmpty());
-}
-
-void LongsTest::sottrazioneSenzaPassi_data() {
-    QTest::addColumn<int>("termine1");
-    QTest::addColumn<double>("decine"); // the draws of the tens and the units of Termine1
-    QTest::addColumn<double>("unita");
-    QTest::addColumn<QString>("dopoIlNumero"); // Label3 once 58 is built
-    QTest::addColumn<QString>("clic");         // the shape clicked until the result opens
-    QTest::addColumn<int>("volte");
-    QTest::newRow("58 - 30: no units")
-        << 30 << v(3, 5) << 0.0 << "Clicca con il mouse sulle sulle decine da eliminare."
-        << "Decina1" << 3;
-    QTest::newRow("58 - 3: no tens") << 3 << 0.0 << v(3, 8)
-                                     << "Clicca con il mouse sulle sulle unità da eliminare."
-                                     << "Unita1" << 3;
-}
-
-void LongsTest::sottrazioneSenzaPassi() {
-    QFETCH(int, termine1);
-    QFETCH(double, decine);
-    QFETCH(double, unita);
-    QFETCH(QString, dopoIlNumero);
-    QFETCH(QString, clic);
-    QFETCH(int, volte);
-    Harness h;
-    apri(h, "FormGrafMeno1", {v(5, 10), v(8, 10), decine, unita});
-    clicca(h, "BotDecine1", 5);
-    clicca(h, "BotUnita1", 8);
-    QCOMPARE(h.caption("Label3"), dopoIlNumero);
-    for (int i = 0; i < volte; ++i) {
-        QVERIFY(!h.visible("Risultato"));
-        clicca(h, QStringLiteral("%1(%2)").arg(clic).arg(i));
+        h.answer("Risultato", "4 4");
+        QVERIFY(stato(h).endsWith("Risultato | no.wav | Controlla esattamente il risultato 16 | no.wav"));
+        QCOMPARE(h.caption("EtichettaErrati"), " 1");
+        QCOMPARE(h.text("Risultato"), "4 4");
+        h.answer("Risultato", "45");
+        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
+        QVERIFY(stato(h).contains("Risultato off") && h.enabled("BottoneAvanti"));
+        h.rnd({0.0, v(10, 79), v(3, 20)});
+        QCOMPARE(dopo(h, "BottoneAvanti"), kPrimoAddendo);
+        QCOMPARE(h.caption("EtNumero"), " 8 +  22 =");
+        QVERIFY(h.enabled("Risultato"));
     }
-    QCOMPARE(h.caption("Label3"), kRisultato);
-    invio(h, QString::number(58 - termine1));
-    QCOMPARE(h.caption("EtichettaEsatti"), " 1");
-}
 
-// Shapes enabled by an earlier step go still on Ricomincia, so the rebuilt number has no gaps.
-void LongsTest::ricominciaSottrazione() {
-    Harness h;
-    apri(h, "FormGrafMeno1", {v(5, 10), v(8, 10), v(2, 5), v(3, 8)}); // 58 - 23
-    clicca(h, "BotDecine1", 5);
-    clicca(h, "BotUnita1", 8);
-    clicca(h, "Unita1(7)");
-    clicca(h, "BottoneRicomincia");
-    QCOMPARE(h.caption("Label3"), "Forma il primo numero.");
-    QCOMPARE(campo(h, "NumeroUnita"), 0);
-    clicca(h, "BotUnita1", 3);
-    clicca(h, "Unita1(1)");
-    QCOMPARE(visibili(h, "Unita1", 9), 3);
-    QCOMPARE(campo(h, "NumeroUnita"), 3);
-}
+    // 20 + 15 without change: no units in the first addend, letters, other keys; without "avanti" the
+    // right result goes straight on. Then a row stopped at nine, silent past its number, and Ricomincia.
+    void addizioneBordi() {
+        Harness h;
+        apri(h, "FormGraf1", {v(3, 10), v(5, 10), v(2, 3), 0.0}, false);
+        QCOMPARE(h.caption("EtNumero"), " 20 +  15 =");
+        QCOMPARE(dopo(h, "BotDecine1", 2), // the row is finished without a square
+                 "Forma il secondo addendo | Decina1 11 | BotDecine2 | BotUnita2 | si.wav");
+        clicca(h, "BotDecine2");
+        QCOMPARE(dopo(h, "BotUnita2", 5), // 5 units in all: no change
+                 "Inserisci il risultato. | Decina1 11 | Decina2 1 | Unita2 11111 | Risultato | si.wav");
+        h.answer("Risultato", "abc");
+        h.run(R"({"key": "Risultato", "code": 65})"); // any other key judges nothing
+        QCOMPARE(h.caption("EtichettaErrati"), " 1");
+        h.events();
+        h.rnd({0.0, 0.0, v(4, 10), v(5, 10), v(1, 4), v(2, 5)});
+        h.answer("Risultato", "35");
+        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
+        QCOMPARE(h.caption("EtNumero"), " 12 +  33 =");
+        QCOMPARE(stato(h), kPrimoAddendo + " | si1.wav");
+        QVERIFY(h.enabled("Risultato"));
 
-void LongsTest::schermi_data() {
-    QTest::addColumn<QString>("form");
-    QTest::addColumn<int>("scheda");
-    QTest::newRow("FormGraf") << "FormGraf" << 15;
-    QTest::newRow("FormGraf1") << "FormGraf1" << 16;
-    QTest::newRow("FormGrafMeno") << "FormGrafMeno" << 17;
-    QTest::newRow("FormGrafMeno1") << "FormGrafMeno1" << 18;
-}
+        QCOMPARE(dopo(h, "BotUnita1", 12),
+                 "Forma il primo addendo | Unita1 111111111 | BotDecine1 | BotUnita1");
+        QCOMPARE(dopo(h, "BottoneRicomincia"), "Forma il primo numero in alto | BotDecine1 | BotUnita1");
+        QCOMPARE(h.caption("EtNumero"), " 12 +  33 =");
+    }
 
-// Each screen prints its own worksheet and comes back to a new question.
-void LongsTest::schermi() {
-    QFETCH(QString, form);
-    QFETCH(int, scheda);
-    Harness h;
-    apri(h, form, {});
-    clicca(h, "BotDecine1");
-    h.run(R"({"menu": "mnuStampa"})");
-    QCOMPARE(h.form(), "formStampa");
-    QCOMPARE(h.global("NumeroScheda"), scheda);
-    h.run(R"({"click": "BottoneEsci"})");
-    QCOMPARE(h.form(), form);
-    QVERIFY(h.caption("Label3").startsWith("Forma il primo"));
-    QCOMPARE(visibili(h, "Decina1", 9), 0);
-}
+    // 52 - 27: 5 longs and 2 squares, one long changed, 7 squares and 2 longs clicked away.
+    void sottrazioneConCambio() {
+        Harness h;
+        apri(h, "FormGrafMeno", {v(32, 79), v(22, 42)});
+        QCOMPARE(h.caption("EtNumero"), " 52 -  27 =");
+        QCOMPARE(stato(h), "Forma il primo numero | BotDecine1 | BotUnita1");
+        clicca(h, "BotUnita1", 2);
+        clicca(h, "Unita1(0)"); // not clickable while the number is built
+        QCOMPARE(dopo(h, "BotDecine1", 5),
+                 "Non hai unità sufficienti. Premi il bottone cambio per cambiare una decina in unità. | "
+                 "Decina1 11111 | Unita1 11 | Cambio | si.wav | si.wav | si.wav");
+        QCOMPARE(dopo(h, "Cambio"), "Clicca con il mouse sulle sulle unità da eliminare. | Decina1 1111 | "
+                                    "Unita1 11 | Unita2 1111111111 | si.wav");
+        clicca(h, "Decina1(0)"); // the longs wait their turn
+        for (const char* s :
+             {"Unita2(9)", "Unita1(0)", "Unita2(0)", "Unita2(4)", "Unita1(1)", "Unita2(1)", "Unita2(0)"})
+            clicca(h, s); // the last one is already gone
+        QCOMPARE(dopo(h, "Unita2(2)"),
+                 "Clicca con il mouse sulle sulle decine da eliminare. | Decina1 1111 | "
+                 "Unita2 000101111 | si.wav | si.wav");
+        clicca(h, "Unita2(3)"); // the squares are still now
+        clicca(h, "Decina1(3)");
+        QCOMPARE(dopo(h, "Decina1(0)"),
+                 "Inserisci il risultato. | Decina1 011 | Unita2 000101111 | Risultato | si.wav");
+        h.answer("Risultato", "25");
+        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
+        QVERIFY(h.events("msgbox").isEmpty());
+    }
+
+    // Steps with nothing to do are passed at once: 58 - 30 takes no unit, 58 - 3 no long; the result
+    // opens on the third click. Ricomincia midway leaves the shapes still while the number is rebuilt.
+    void sottrazioneSenzaPassi_data() {
+        QTest::addColumn<QList<double>>("draws"); // the tens and the units of Termine1
+        QTest::addColumn<QString>("clic");        // the shapes clicked away
+        QTest::addColumn<QString>("passo");
+        QTest::addColumn<QString>("risultato");
+        QTest::newRow("58 - 30: no units") << QList<double>{v(3, 5), 0.0} << "Decina1"
+                                           << "decine"
+                                           << "28";
+        QTest::newRow("58 - 3: no tens") << QList<double>{0.0, v(3, 8)} << "Unita1"
+                                         << "unità"
+                                         << "55";
+    }
+    void sottrazioneSenzaPassi() {
+        QFETCH(QList<double>, draws);
+        QFETCH(QString, clic);
+        QFETCH(QString, passo);
+        QFETCH(QString, risultato);
+        Harness h;
+        apri(h, "FormGrafMeno1", QList<double>{v(5, 10), v(8, 10)} + draws);
+        clicca(h, "BotDecine1", 5);
+        clicca(h, "BotUnita1", 8);
+        clicca(h, clic + "(0)");
+        h.events();
+        QCOMPARE(dopo(h, "BottoneRicomincia"), "Forma il primo numero. | BotDecine1 | BotUnita1");
+        clicca(h, "BotDecine1", 5);
+        clicca(h, "BotUnita1");
+        clicca(h, clic + "(0)"); // still
+        QCOMPARE(dopo(h, "BotUnita1", 7).section(" | ", 1, 2), "Decina1 11111 | Unita1 11111111");
+        clicca(h, clic + "(0)");
+        QCOMPARE(dopo(h, clic + "(1)").section(" | ", 0, 0),
+                 QStringLiteral("Clicca con il mouse sulle sulle %1 da eliminare.").arg(passo));
+        QCOMPARE(dopo(h, clic + "(2)").section(" | ", 0, 0), "Inserisci il risultato.");
+        h.answer("Risultato", risultato);
+        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
+    }
+
+    // Each screen prints its own worksheet and comes back to a new question.
+    void schede() {
+        int scheda = 15;
+        for (const QString form : {"FormGraf", "FormGraf1", "FormGrafMeno", "FormGrafMeno1"}) {
+            Harness h;
+            apri(h, form, {});
+            clicca(h, "BotDecine1");
+            h.run(R"({"menu": "mnuStampa"})");
+            QCOMPARE(h.global("NumeroScheda"), scheda++);
+            h.run(R"({"click": "BottoneEsci"})");
+            QCOMPARE(h.form(), form);
+            QVERIFY(stato(h).startsWith("Forma il primo") && !h.visible("Decina1(0)"));
+        }
+    }
+};
 
 QTEST_MAIN(LongsTest)
 #include "longs.moc"
