@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPointer>
 #include <QShortcut>
 #include <cmath>
 
@@ -148,7 +149,11 @@ void Form::registerControl(Control* c, const QString& name) {
 }
 
 void Form::PrintForm() {
+    // The blinking caret is no part of the page: the box that has it gets it back afterwards.
+    QPointer<QWidget> conFuoco = focusWidget();
+    if (conFuoco) conFuoco->clearFocus();
     app.printer.printForm(*this, name());
+    if (conFuoco) conFuoco->setFocus();
 }
 
 void Form::Show(const QString& formName) {

@@ -30,7 +30,7 @@ SchedaAbaco::SchedaAbaco(Program& program, const QString& titolo, int text2Heigh
     mnustampa = menu(QStringLiteral("mnustampa"), QStringLiteral("Stampa   "));
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
     // The page as it shows, with whatever has been written into the boxes.
-    mnustampa->Click = [this] { Stampa(); };
+    mnustampa->Click = [this] { PrintForm(); };
     mnuesci->Click = [this] { UnloadMe(); };
 
     // The heading, on one line of a box the adult may still write in; no scroll bars on the page.
@@ -83,14 +83,6 @@ void SchedaAbaco::Scrivi(const QString (&testi)[8]) {
         Text1(i)->setText(testi[i]);
         Text1(i)->setCursorPosition(0);
     }
-}
-
-void SchedaAbaco::Stampa() {
-    // No text cursor on the paper; the box that had it gets it back.
-    QWidget* conFuoco = focusWidget();
-    if (conFuoco) conFuoco->clearFocus();
-    PrintForm();
-    if (conFuoco) conFuoco->setFocus();
 }
 
 // ---- formSt99a ----

@@ -34,7 +34,6 @@ protected:
     // The eight texts in their boxes, each from its first letter, all in one size.
     void Scrivi(const QString (&testi)[8]);
     // The page to the printer as it shows.
-    void Stampa();
     int Disegna(); // one number, 1 to NumeroMassimo
 
     MultiLineTextBox* Text2;

@@ -39,11 +39,7 @@ LongsSheetForm::LongsSheetForm(Program& program, const QString& intestazione, in
     mnustampa = menu(QStringLiteral("mnustampa"), QStringLiteral("Stampa   "));
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
     // The page goes to the printer as it shows, words typed in the boxes included.
-    mnustampa->Click = [this] {
-        // The blinking caret is no part of the page.
-        if (QWidget* f = focusWidget()) f->clearFocus();
-        PrintForm();
-    };
+    mnustampa->Click = [this] { PrintForm(); };
     mnuesci->Click = [this] { UnloadMe(); };
 
     // The heading reads as a line of the page, not as a box: no edge, no scroll bars, no margin.
