@@ -1,6 +1,7 @@
 // Screens: their window, their menu bar, and the place and names of their controls.
 
 #include "shell/form.h"
+#include "shell/printout.h"
 #include "shell/program.h"
 
 #include <QAction>
@@ -152,7 +153,15 @@ void Form::PrintForm() {
     // The blinking caret is no part of the page: the box that has it gets it back afterwards.
     QPointer<QWidget> conFuoco = focusWidget();
     if (conFuoco) conFuoco->clearFocus();
+    app.printer.setDocName(QStringLiteral("Contarello - scheda ") + name());
     app.printer.printForm(*this, name());
+    if (conFuoco) conFuoco->setFocus();
+}
+
+void Form::SalvaPdf() {
+    QPointer<QWidget> conFuoco = focusWidget();
+    if (conFuoco) conFuoco->clearFocus();
+    contarello::SalvaPdf(app, *this, QStringLiteral("Contarello - scheda ") + name());
     if (conFuoco) conFuoco->setFocus();
 }
 

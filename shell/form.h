@@ -34,7 +34,10 @@ public:
     void setTitleBar(bool on);
 
     // Prints what the screen shows under its menu bar, scaled to the page; a failure prints nothing.
+    // The print queue shows it as "Contarello - scheda " and the screen's name.
     void PrintForm();
+    // The same page saved as a PDF file where the adult chooses.
+    void SalvaPdf();
 
     Control* find(const QString& name) const;
     const std::vector<Control*>& controls() const { return controls_; }

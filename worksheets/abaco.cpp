@@ -28,6 +28,7 @@ SchedaAbaco::SchedaAbaco(Program& program, const QString& titolo, int text2Heigh
     : Form(program, kLargo, kAlto), textPoints_(celle.textPoints) {
     setBackColor(kBianco);
     mnustampa = menu(QStringLiteral("mnustampa"), QStringLiteral("Stampa   "));
+    menu(QStringLiteral("mnuPdf"), QStringLiteral("Salva PDF   "))->Click = [this] { SalvaPdf(); };
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
     // The page as it shows, with whatever has been written into the boxes.
     mnustampa->Click = [this] { PrintForm(); };

@@ -37,6 +37,7 @@ LongsSheetForm::LongsSheetForm(Program& program, const QString& intestazione, in
     : Form(program, kLarghezza, kAltezza) {
     setBackColor(QColor(0xff, 0xff, 0xff));
     mnustampa = menu(QStringLiteral("mnustampa"), QStringLiteral("Stampa   "));
+    menu(QStringLiteral("mnuPdf"), QStringLiteral("Salva PDF   "))->Click = [this] { SalvaPdf(); };
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
     // The page goes to the printer as it shows, words typed in the boxes included.
     mnustampa->Click = [this] { PrintForm(); };

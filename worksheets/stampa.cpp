@@ -88,7 +88,7 @@ formStampa::formStampa(Program& program) : Form(program, 9480, 6795) {
     // In the room left between the size frame and the print buttons.
     btnPDF = button(QStringLiteral("btnPDF"), QStringLiteral("Salva PDF"), 6480, 4020, 2775, 375, bottoni);
     btnPDF->Click = [this] {
-        SalvaPdf(app, NomeDocumento(QStringLiteral("scheda")), {Foglio(), Correzione()});
+        contarello::SalvaPdf(app, NomeDocumento(QStringLiteral("scheda")), {Foglio(), Correzione()});
     };
     Command2 =
         button(QStringLiteral("Command2"), QStringLiteral("Nuova scheda"), 6510, 5565, 1335, 855, bottoni);

@@ -14,6 +14,7 @@ FoglioTabella::FoglioTabella(Program& program, const QString& consegna, bool fac
     if (facile) mnuFacile = menu(QStringLiteral("mnuFacile"), QStringLiteral("facile"), mnuTabella);
     mnuMedia = menu(QStringLiteral("mnuMedia"), QStringLiteral("media"), mnuTabella);
     mnudifficile = menu(QStringLiteral("mnudifficile"), QStringLiteral("difficile"), mnuTabella);
+    menu(QStringLiteral("mnuPdf"), QStringLiteral("Salva PDF   "))->Click = [this] { SalvaPdf(); };
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
 
     // The heading prints with the page: no scroll bars, no frame.

@@ -155,15 +155,37 @@ private slots:
         QCOMPARE(h.form(), QStringLiteral("formStampa"));
     }
 
-    // The drawn worksheets save the picture of their screen, its texts still text.
-    void aScreenKeepsItsTextsAsText() {
+    // The drawn worksheets save the picture of their page, its texts still text, under the name their
+    // print job takes too.
+    void drawnSheetsKeepTheirTextsAsText_data() {
+        QTest::addColumn<QString>("exercise");
+        QTest::addColumn<QString>("sheet");
+        for (const auto& [exercise, sheet] : {std::pair{"Form999x", "formStampa1"},
+                                              {"Form999y", "formStampa4"},
+                                              {"Form99a", "formSt99a"},
+                                              {"Form99b", "formSt99b"},
+                                              {"Form100Trova", "formStampa2"},
+                                              {"Form100Ricon", "formStampa3"}})
+            QTest::newRow(sheet) << QString(exercise) << QString(sheet);
+    }
+    void drawnSheetsKeepTheirTextsAsText() {
+        QFETCH(QString, exercise);
+        QFETCH(QString, sheet);
         QTemporaryDir dir;
         const QString pdf = dir.filePath(QStringLiteral("disegno.pdf"));
-        QLabel sheet(QStringLiteral("Scrivi il valore delle caselle indicate con X"));
-        sheet.resize(640, 480);
-        QVERIFY(ScriviPdf(pdf, QStringLiteral("Contarello - scheda formStampa3"), sheet).ok);
+        Harness h;
+        h.run(QStringLiteral(R"({"show": "%1"})").arg(exercise));
+        h.run(R"({"menu": "mnuStampa"})");
+        QCOMPARE(h.form(), sheet);
+        const QString heading = h.text("Text2").simplified();
+        act(h, {{"savefile", QJsonArray{pdf}}});
+        h.run(R"({"menu": "mnuPdf"})");
+        h.run(R"({"menu": "mnustampa"})");
+        const QString name = QStringLiteral("Contarello - scheda ") + sheet;
+        QCOMPARE(info(pdf, "Title"), name);
         QCOMPARE(info(pdf, "Pages"), QStringLiteral("1"));
-        QCOMPARE(words(page(pdf, 1)), QStringList{"Scrivi il valore delle caselle indicate con X"});
+        QVERIFY2(words(page(pdf, 1)).join(u' ').contains(heading), qPrintable(heading));
+        QCOMPARE(h.events("printform").at(0).toObject().value("name").toString(), name);
     }
 };
 
