@@ -26,13 +26,7 @@ FrameLayout LayoutDifferenza() {
 
 AbacoDifferenzaForm::AbacoDifferenzaForm(Program& program, const AbacoOpMember& member)
     : AbacoOpForm(program, member, 9600, 6960, LayoutDifferenza()) {
-    EtichettaNumero =
-        label(QStringLiteral("EtichettaNumero"), QString(), 120, 120, 2940, 615, SansSerif(18, true));
-    EtichettaNumero->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    Text1 = textBox(QStringLiteral("Text1"), 3120, 120, 1335, 615, Arial(18));
-    Text1->setAlignment(Qt::AlignCenter);
-    Text1->setVisible(false);
-    Text1->KeyUp = [this](int keyCode, int) { Text1_KeyUp(keyCode); };
+    CreaDomanda(2940, 3120);
 
     CreaAbaco({1365, 5805, 5460, 5415, 1680, 2100, false});
 

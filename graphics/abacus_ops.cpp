@@ -110,6 +110,16 @@ AbacoOpForm::AbacoOpForm(Program& program, const AbacoOpMember& member, int widt
     : ExerciseForm(program, Variante::B, member.numeroScheda, widthTwips, heightTwips, Opzioni(layout)),
       member_(member) {}
 
+void AbacoOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
+    EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 120, 120, larghezzaDomanda, 615,
+                            SansSerif(18, true));
+    EtichettaNumero->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    Text1 = textBox(QStringLiteral("Text1"), leftRisultato, 120, 1335, 615, Arial(18));
+    Text1->setAlignment(Qt::AlignCenter);
+    Text1->setVisible(false);
+    Text1->KeyUp = [this](int keyCode, int) { Text1_KeyUp(keyCode); };
+}
+
 void AbacoOpForm::CreaAbaco(const Geometria& geo) {
     auto filo = [&](int i, int x) {
         FiloAbaco.set(i, line(indexed(QStringLiteral("FiloAbaco"), i), x, geo.filoAlto, x, geo.filoBasso,

@@ -56,6 +56,8 @@ protected:
         bool frecciaASinistra; // the change goes towards the tens
     };
     void CreaAbaco(const Geometria& geo);
+    // The question at the top left and, beside it, the result box, hidden until the number stands.
+    void CreaDomanda(int larghezzaDomanda, int leftRisultato);
     // Every bead shown or hidden from the two counts, and the counts written beside the wires.
     void MostraPalline();
     // The question's numbers kept, the beads and the dialogue back to their start.

@@ -27,13 +27,7 @@ FrameLayout LayoutSomma() {
 
 AbacoSommaForm::AbacoSommaForm(Program& program, const AbacoOpMember& member)
     : AbacoOpForm(program, member, 9720, 7080, LayoutSomma()) {
-    EtichettaNumero =
-        label(QStringLiteral("EtichettaNumero"), QString(), 120, 120, 3420, 615, SansSerif(18, true));
-    EtichettaNumero->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    Text1 = textBox(QStringLiteral("Text1"), 3600, 120, 1335, 615, Arial(18));
-    Text1->setAlignment(Qt::AlignCenter);
-    Text1->setVisible(false);
-    Text1->KeyUp = [this](int keyCode, int) { Text1_KeyUp(keyCode); };
+    CreaDomanda(3420, 3600);
 
     CreaAbaco({1260, 5700, 5355, 5310, 1470, 0, true});
 
