@@ -149,20 +149,26 @@ void Form::registerControl(Control* c, const QString& name) {
     byName_[name] = c;
 }
 
-void Form::PrintForm() {
-    // The blinking caret is no part of the page: the box that has it gets it back afterwards.
-    QPointer<QWidget> conFuoco = focusWidget();
+namespace {
+// The blinking caret is no part of a page: the box that has it gets it back afterwards.
+template <class Draw> void SenzaCursore(QWidget& screen, Draw draw) {
+    QPointer<QWidget> conFuoco = screen.focusWidget();
     if (conFuoco) conFuoco->clearFocus();
-    app.printer.setDocName(QStringLiteral("Contarello - scheda ") + name());
-    app.printer.printForm(*this, name());
+    draw();
     if (conFuoco) conFuoco->setFocus();
+}
+} // namespace
+
+void Form::PrintForm() {
+    SenzaCursore(*this, [this] {
+        app.printer.setDocName(QStringLiteral("Contarello - scheda ") + name());
+        app.printer.printForm(*this, name());
+    });
 }
 
 void Form::SalvaPdf() {
-    QPointer<QWidget> conFuoco = focusWidget();
-    if (conFuoco) conFuoco->clearFocus();
-    contarello::SalvaPdf(app, *this, QStringLiteral("Contarello - scheda ") + name());
-    if (conFuoco) conFuoco->setFocus();
+    SenzaCursore(
+        *this, [this] { contarello::SalvaPdf(app, *this, QStringLiteral("Contarello - scheda ") + name()); });
 }
 
 void Form::Show(const QString& formName) {
