@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QTimer>
 
 using namespace contarello;
 
@@ -33,6 +32,7 @@ double ScalaScelta(const QStringList& args) {
 } // namespace
 
 int main(int argc, char** argv) {
+    UseProgramFonts();
     QApplication application(argc, argv);
     PrepareToolkit(application);
     SetScaleFactor(ScalaScelta(QCoreApplication::arguments()));
@@ -42,19 +42,22 @@ int main(int argc, char** argv) {
     QtRandom rnd;
     LazySound sound(files.modules);
     QtDialogs dialogs;
-    QtPrinter printer;
+    QtPrinter printer(files.modules);
     Program app(rnd, sound, dialogs, printer, files.data, FormTable());
     app.nav.setFollowWindowSystem(true);
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
     Main(app);
     if (app.nav.ended()) return 0;
-    // The sounds get ready while the child looks at the start screen.
-    QTimer::singleShot(300, &application, [&] {
-        for (const char* f : {"si1", "si2", "si3", "si4", "si", "no"})
-            sound.preload(app.appPath + QStringLiteral("/suoni/") + QLatin1String(f) +
-                          QStringLiteral(".wav"));
-    });
-    if (qEnvironmentVariableIsSet("CONTARELLO_EXIT_AFTER_FIRST_PAINT"))
-        app.nav.active()->installEventFilter(new ExitAfterFirstPaint(&application));
+    if (qEnvironmentVariableIsSet("CONTARELLO_EXIT_AFTER_FIRST_PAINT")) {
+        ExitAfterFirstPaint(app.nav.active());
+    } else {
+        // Qt's own texts and the sounds get ready while the child looks at the start screen.
+        new AfterFirstPaint(app.nav.active(), [&] {
+            InstallItalianTexts(application);
+            for (const char* f : {"si1", "si2", "si3", "si4", "si", "no"})
+                sound.preload(app.appPath + QStringLiteral("/suoni/") + QLatin1String(f) +
+                              QStringLiteral(".wav"));
+        });
+    }
     return application.exec();
 }

@@ -41,11 +41,16 @@ int ReportProgramFiles(const ProgramFiles& files) {
         missing += there ? 0 : 1;
         std::printf("%s %s\n", there ? "ok     " : "MISSING", qPrintable(path));
     }
-    QLibrary module(files.modules + QStringLiteral("/libcontarello_sound"));
-    const bool loads = module.load() && module.resolve("contarello_make_sound");
-    missing += loads ? 0 : 1;
-    std::printf("%s %s\n", loads ? "ok     " : "MISSING",
-                qPrintable(loads ? module.fileName() : module.errorString()));
+    const std::pair<const char*, const char*> modules[] = {
+        {"libcontarello_sound", "contarello_make_sound"},
+        {"libcontarello_print", "contarello_default_printer"}};
+    for (const auto& [name, entry] : modules) {
+        QLibrary module(files.modules + QLatin1Char('/') + QLatin1String(name));
+        const bool loads = module.load() && module.resolve(entry);
+        missing += loads ? 0 : 1;
+        std::printf("%s %s\n", loads ? "ok     " : "MISSING",
+                    qPrintable(loads ? module.fileName() : module.errorString()));
+    }
     return missing == 0 ? 0 : 1;
 }
 

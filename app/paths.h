@@ -9,7 +9,7 @@ namespace contarello {
 
 struct ProgramFiles {
     QString data;    // the folder that holds suoni/
-    QString modules; // the folder that holds the sound module
+    QString modules; // the folder that holds the sound and print modules
 };
 
 ProgramFiles FindProgramFiles(const QString& programDir);

@@ -222,6 +222,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     PrepareToolkit(app);
+    InstallItalianTexts(app);
     benchmark::RegisterBenchmark("BM_StartToFormAvvio", BM_StartToFormAvvio)->Unit(benchmark::kMicrosecond);
     {
         auto engine = OnGraphicMenu();

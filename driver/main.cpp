@@ -12,8 +12,10 @@
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    contarello::UseProgramFonts();
     QApplication application(argc, argv);
     contarello::PrepareToolkit(application);
+    contarello::InstallItalianTexts(application);
     // Scale 1 unless told otherwise, so that scripts see the screens as laid out.
     bool scaled = false;
     const double factor = qEnvironmentVariable("CONTARELLO_SCALE").toDouble(&scaled);

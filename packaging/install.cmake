@@ -1,4 +1,4 @@
-# Installing and packaging: the program, its sound module and its sounds in the system's places,
+# Installing and packaging: the program, its sound and print modules and its sounds in the system's places,
 # with a menu entry, an icon and the metadata of software centres; `cpack` makes a .deb of it.
 include(GNUInstallDirs)
 
@@ -14,7 +14,7 @@ target_compile_definitions(contarello PRIVATE CONTARELLO_DATA_FROM_BIN="${data_f
     CONTARELLO_MODULES_FROM_BIN="${modules_from_bin}")
 
 install(TARGETS contarello RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS contarello_sound LIBRARY DESTINATION ${CONTARELLO_MODULEDIR})
+install(TARGETS contarello_sound contarello_print LIBRARY DESTINATION ${CONTARELLO_MODULEDIR})
 install(FILES ${SOUND_FILES} DESTINATION ${CONTARELLO_DATADIR}/suoni)
 install(FILES packaging/${CONTARELLO_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/${CONTARELLO_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

@@ -8,6 +8,7 @@ PACKAGES=(
     qt6-base-dev qt6-multimedia-dev   # widgets, print support, test, sounds
     qt6-translations-l10n             # "Sì", "No", "Annulla" in Qt's own boxes
     fonts-liberation2                 # the screens are laid out for Arial's metrics
+    libfontconfig-dev                 # the program's own font configuration
     libbenchmark-dev                  # the benchmark
     poppler-utils                     # the tests read the saved PDF back
     desktop-file-utils appstream      # the tests validate the menu entry and the metadata

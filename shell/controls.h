@@ -3,6 +3,8 @@
 // captions kept to the blank, handlers as plain functions, control arrays named Name(i), and every
 // control findable by its name so that the driver and the tests need no hooks of their own.
 
+#include "shell/scale.h"
+
 #include <QAbstractButton>
 #include <QColor>
 #include <QFont>
@@ -31,14 +33,10 @@ struct Program;
 struct Modulo1;
 class Form;
 
-constexpr int kTwipsPerPixel = 15;
-
 // One scale factor for the whole program, applied where twips become pixels: geometry, fonts, line
 // widths and pictures grow together, so every screen keeps its proportions. 1 unless main sets it.
 double ScaleFactor();
 void SetScaleFactor(double factor);
-// The factor that lets the largest screen fill about 85 % of the available area, never below 1.
-double ChooseScaleFactor(QSize available);
 
 // Twips to pixels, and back, at the program's scale.
 inline int tw(int twips) {

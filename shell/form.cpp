@@ -16,9 +16,6 @@ namespace contarello {
 
 namespace {
 double gScale = 1;
-// The largest screen of the program, FormOrd's width and the menus' height with a menu bar, in
-// twips: the factor is chosen so that it fits.
-constexpr int kLargestWidth = 12600, kLargestHeight = 8400;
 } // namespace
 
 double ScaleFactor() {
@@ -26,13 +23,6 @@ double ScaleFactor() {
 }
 void SetScaleFactor(double factor) {
     gScale = std::isfinite(factor) ? std::clamp(factor, 0.25, 8.0) : 1.0;
-}
-
-double ChooseScaleFactor(QSize available) {
-    if (available.isEmpty()) return 1;
-    const double wide = 0.85 * available.width() / (double(kLargestWidth) / kTwipsPerPixel);
-    const double high = 0.85 * available.height() / (double(kLargestHeight) / kTwipsPerPixel);
-    return std::max(1.0, std::min(wide, high));
 }
 
 QFont Arial(double points, bool bold) {

@@ -10,9 +10,8 @@
 #include <QLibrary>
 #include <QLibraryInfo>
 #include <QMessageBox>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTranslator>
@@ -27,6 +26,9 @@ void PrepareToolkit(QApplication& app) {
     QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
+}
+
+void InstallItalianTexts(QCoreApplication& app) {
     auto* qt = new QTranslator(&app);
     if (qt->load(QLocale(QLocale::Italian, QLocale::Italy), QStringLiteral("qtbase"), QStringLiteral("_"),
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -41,14 +43,20 @@ void QtRandom::Randomize() {
     gen_.seed(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
+QFunctionPointer ResolveModule(const QString& moduleDir, const char* module, const char* entry) {
+    QLibrary lib(moduleDir + QLatin1Char('/') + QLatin1String(module));
+    return lib.resolve(entry); // the library stays loaded once resolved
+}
+
 LazySound::~LazySound() = default;
 
 Sound* LazySound::module() {
     if (!tried_) {
         tried_ = true;
-        QLibrary lib(moduleDir_ + QStringLiteral("/libcontarello_sound"));
         using Make = Sound* (*)();
-        if (auto make = reinterpret_cast<Make>(lib.resolve("contarello_make_sound"))) sound_.reset(make());
+        if (auto make = reinterpret_cast<Make>(
+                ResolveModule(moduleDir_, "libcontarello_sound", "contarello_make_sound")))
+            sound_.reset(make());
     }
     return sound_.get();
 }
@@ -140,28 +148,29 @@ QString QtDialogs::SaveFile(const QString& title, const QString& defaultName, co
     return path;
 }
 
+std::unique_ptr<QPagedPaintDevice> QtPrinter::open(const QString& docName) {
+    if (!tried_) {
+        tried_ = true;
+        open_ = reinterpret_cast<Open>(
+            ResolveModule(moduleDir_, "libcontarello_print", "contarello_default_printer"));
+    }
+    return std::unique_ptr<QPagedPaintDevice>(open_ ? open_(docName) : nullptr);
+}
+
 void QtPrinter::endDoc() {
     const QString text = takeText();
-    const QString name = takeDocName();
-    if (QPrinterInfo::defaultPrinter().isNull()) return;
-    QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
-    // A queue shows the name, and a PDF printer makes its file name of it: two documents no longer
-    // end up in one file, the second over the first.
-    printer.setDocName(name);
+    const auto printer = open(takeDocName());
     QPainter p;
-    if (!p.begin(&printer)) return;
-    PaintText(p, printer, {font_, size_, text});
+    if (!printer || !p.begin(printer.get())) return;
+    PaintText(p, *printer, {font_, size_, text});
     p.end();
 }
 
 void QtPrinter::printForm(QWidget& form, const QString&) {
-    const QString name = takeDocName();
-    if (QPrinterInfo::defaultPrinter().isNull()) return;
-    QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
-    printer.setDocName(name);
+    const auto printer = open(takeDocName());
     QPainter p;
-    if (!p.begin(&printer)) return;
-    PaintWidget(p, printer, form);
+    if (!printer || !p.begin(printer.get())) return;
+    PaintWidget(p, *printer, form);
     p.end();
 }
 

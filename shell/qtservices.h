@@ -3,17 +3,26 @@
 // and input boxes, and the system's default printer.
 
 #include "core/services.h"
+#include "shell/fonts.h"
 
 #include <QObject>
 #include <map>
 #include <memory>
 
 class QApplication;
+class QCoreApplication;
+class QPagedPaintDevice;
 
 namespace contarello {
 
-// Fonts, style and the Italian texts of Qt's own boxes, once at start.
+// Fonts and style, once at start.
 void PrepareToolkit(QApplication& app);
+// The Italian texts of Qt's own boxes and menus, needed from the first box on, not for the start.
+void InstallItalianTexts(QCoreApplication& app);
+
+// An entry of one of the program's modules in moduleDir, or null when the module or its entry
+// isn't there.
+QFunctionPointer ResolveModule(const QString& moduleDir, const char* module, const char* entry);
 
 class QtRandom : public Random {
 public:
@@ -51,10 +60,21 @@ private:
     QString folder_; // where the last file went, for the next one in this run
 };
 
+// The system's default printer, through the print module loaded on the first printout; without
+// the module or a printer nothing comes out.
 class QtPrinter : public BufferedPrinter {
 public:
+    explicit QtPrinter(QString moduleDir) : moduleDir_(std::move(moduleDir)) {}
     void endDoc() override;
     void printForm(QWidget& form, const QString& formName) override;
+
+private:
+    std::unique_ptr<QPagedPaintDevice> open(const QString& docName);
+
+    using Open = QPagedPaintDevice* (*)(const QString&);
+    QString moduleDir_;
+    Open open_ = nullptr;
+    bool tried_ = false;
 };
 
 } // namespace contarello

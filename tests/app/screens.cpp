@@ -4,8 +4,13 @@
 #include "app/screens.h"
 #include "support/harness.h"
 
+#include <QDir>
+#include <QFile>
+#include <QImage>
 #include <QJsonArray>
+#include <QProcess>
 #include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace contarello;
@@ -62,6 +67,40 @@ private slots:
             h.run(R"({"menu": "mnuStampa"})");
             QVERIFY2(h.form().startsWith("formSt"), qPrintable(name + " prints nothing"));
             QVERIFY2(h.dump().value("loaded").toArray().contains(name), qPrintable(name));
+        }
+    }
+
+    // The program reads only its own fonts; every screen must still look exactly as it does with
+    // the system's whole font configuration.
+    void everyScreenLooksTheSameWithTheProgramsFonts() {
+        if (!QFile::exists(QStringLiteral("/etc/fonts/fonts.conf"))) QSKIP("no system font configuration");
+        QTemporaryDir dir;
+        const QStringList all = names();
+        const auto shoot = [&](const QString& folder, const QString& fontconfig) {
+            QProcess driver;
+            QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+            env.remove(QStringLiteral("FONTCONFIG_FILE"));
+            if (!fontconfig.isEmpty()) env.insert(QStringLiteral("FONTCONFIG_FILE"), fontconfig);
+            driver.setProcessEnvironment(env);
+            driver.start(QCoreApplication::applicationDirPath() + QStringLiteral("/contarello-driver"), {});
+            QDir(dir.path()).mkdir(folder);
+            for (const QString& name : all)
+                driver.write(QStringLiteral(R"({"show": "%1"})"
+                                            "\n"
+                                            R"({"screenshot": "%2/%3/%1.png"})"
+                                            "\n")
+                                 .arg(name, dir.path(), folder)
+                                 .toUtf8());
+            driver.closeWriteChannel();
+            return driver.waitForFinished(120000) && driver.exitCode() == 0;
+        };
+        QVERIFY(shoot(QStringLiteral("own"), {}));
+        QVERIFY(shoot(QStringLiteral("system"), QStringLiteral("/etc/fonts/fonts.conf")));
+        for (const QString& name : all) {
+            const QImage own(dir.filePath(QStringLiteral("own/") + name + QStringLiteral(".png")));
+            QVERIFY2(!own.isNull(), qPrintable(name));
+            QVERIFY2(own == QImage(dir.filePath(QStringLiteral("system/") + name + QStringLiteral(".png"))),
+                     qPrintable(name + " looks different with the program's fonts"));
         }
     }
 };

@@ -22,11 +22,14 @@ expected=(
 )
 for s in si1 si2 si3 si4 si no; do expected+=("share/contarello/suoni/$s.wav"); done
 for f in "${expected[@]}"; do [ -f "$root/$f" ] || fail "$f is not installed"; done
-module=$(find "$root/lib" -name libcontarello_sound.so)
-[ -n "$module" ] || fail "the sound module is not installed"
+modules=()
+for m in sound print; do
+    modules+=("$(find "$root/lib" -name libcontarello_$m.so)")
+    [ -n "${modules[-1]}" ] || fail "the $m module is not installed"
+done
 [ -x "$root/bin/contarello" ] || fail "the program is not executable"
 # Nothing of the build tree comes along: no sounds or module next to the program.
-[ ! -e "$root/bin/suoni" ] && [ ! -e "$root/bin/libcontarello_sound.so" ] || fail "files left in bin/"
+[ -z "$(ls "$root/bin" | grep -v '^contarello$')" ] || fail "files left in bin/"
 
 desktop-file-validate "$root/share/applications/$id.desktop" || fail "the .desktop entry does not validate"
 appstreamcli validate --no-net --pedantic "$root/share/metainfo/$id.metainfo.xml" >/dev/null ||
@@ -39,10 +42,12 @@ report=$(CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen "$root/bin/contarell
     fail "the installed program misses files:"$'\n'"$report"
 [ "$(grep -c "^ok      $root/share/contarello/suoni/" <<<"$report")" -eq 6 ] ||
     fail "the sounds were not found in the installed tree:"$'\n'"$report"
-grep -q "^ok      $module\$" <<<"$report" || fail "the sound module was not loaded from the tree:"$'\n'"$report"
+for module in "${modules[@]}"; do
+    grep -q "^ok      $module\$" <<<"$report" || fail "$module was not loaded from the tree:"$'\n'"$report"
+done
 
 # The build tree keeps working: there the files lie next to the program.
 report=$(CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen "$build/contarello") ||
     fail "the program in the build tree misses files:"$'\n'"$report"
 [ "$(grep -c "^ok      $build/suoni/" <<<"$report")" -eq 6 ] || fail "build tree sounds:"$'\n'"$report"
-echo "installed tree: ${#expected[@]} files and the module in place, sounds found"
+echo "installed tree: ${#expected[@]} files and the modules in place, sounds found"
