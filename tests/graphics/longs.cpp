@@ -26,19 +26,13 @@ QString testo(const Operazione& o) {
 // The screen opened straight after the start screen, whose colour takes the first draw; then the
 // screen's colour and its draws.
 void apri(Harness& h, const QString& form, const QList<double>& draws, bool avanti = true) {
-    h.engine.execute({{"rnd", QJsonArray{0.0}}});
+    h.rnd({0.0});
     h.dump();
     h.engine.program().g.AttendiBottone = avanti ? -1 : 0;
-    QJsonArray a{0.0};
+    h.rnd({0.0});
     for (double x : draws)
-        a.append(x);
-    h.engine.execute({{"rnd", a}});
+        h.rnd({x});
     h.run(QStringLiteral(R"({"show": "%1"})").arg(form));
-}
-
-void clicca(Harness& h, const QString& name, int volte = 1) {
-    for (int i = 0; i < volte; ++i)
-        h.run(QStringLiteral(R"({"click": "%1"})").arg(name));
 }
 
 // The screen in one line: the instruction; for each row of shapes, which show (1) and which don't
@@ -68,8 +62,11 @@ QString stato(Harness& h) {
     return s.join(" | ");
 }
 
-QString dopo(Harness& h, const QString& name, int volte = 1) {
-    clicca(h, name, volte);
+// Clicks, e.g. "BotDecine1*2 Unita2(0)", then the screen in one line.
+QString dopo(Harness& h, const QString& clic) {
+    for (const QString& c : clic.split(' '))
+        for (int i = std::max(1, c.section('*', 1).toInt()); i > 0; --i)
+            h.run(QStringLiteral(R"({"click": "%1"})").arg(c.section('*', 0, 0)));
     return stato(h);
 }
 
@@ -125,29 +122,24 @@ private slots:
         apri(h, "FormGraf", {v(25, 79), v(22, 35)});
         QCOMPARE(h.caption("EtNumero"), " 27 +  18 =");
         QCOMPARE(stato(h), kPrimoAddendo);
-        clicca(h, "BotDecine1", 2);
-        clicca(h, "BotUnita2"); // not yet: nothing
-        QCOMPARE(dopo(h, "BotUnita1", 7),
+        QCOMPARE(dopo(h, "BotDecine1*2 BotUnita2 BotUnita1*7"), // the second row not yet
                  "Forma il secondo addendo | Decina1 11 | Unita1 1111111 | BotDecine2 | BotUnita2 | si.wav");
-        clicca(h, "BotUnita2", 8);
-        QCOMPARE(dopo(h, "BotDecine2"), "Ci sono almeno 10 unità.\r\nEsegui il cambio. | Decina1 11 | "
-                                        "Unita1 1111111 | Decina2 1 | Unita2 11111111 | Cambio | si.wav");
+        QCOMPARE(dopo(h, "BotUnita2*8 BotDecine2"),
+                 "Ci sono almeno 10 unità.\r\nEsegui il cambio. | Decina1 11 | "
+                 "Unita1 1111111 | Decina2 1 | Unita2 11111111 | Cambio | si.wav");
         // All 7 squares of the first row and the first 3 of the second go; the counters stay.
         QCOMPARE(dopo(h, "Cambio"), "Inserisci il risultato. | Decina1 11 | Decina2 1 | Unita2 00011111 | "
                                     "DecinaCambio | Cambio | Risultato");
         QCOMPARE(h.dump().value("focus").toString(), "Risultato");
-
         h.answer("Risultato", "4 4");
         QVERIFY(stato(h).endsWith("Risultato | no.wav | Controlla esattamente il risultato 16 | no.wav"));
-        QCOMPARE(h.caption("EtichettaErrati"), " 1");
         QCOMPARE(h.text("Risultato"), "4 4");
         h.answer("Risultato", "45");
-        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
+        QCOMPARE(std::pair(h.global("Esatti"), h.global("Errati")), std::pair(1, 1));
         QVERIFY(stato(h).contains("Risultato off") && h.enabled("BottoneAvanti"));
         h.rnd({0.0, v(10, 79), v(3, 20)});
         QCOMPARE(dopo(h, "BottoneAvanti"), kPrimoAddendo);
-        QCOMPARE(h.caption("EtNumero"), " 8 +  22 =");
-        QVERIFY(h.enabled("Risultato"));
+        QVERIFY(h.caption("EtNumero") == " 8 +  22 =" && h.enabled("Risultato"));
     }
 
     // 20 + 15 without change: no units in the first addend, letters, other keys; without "avanti" the
@@ -156,23 +148,19 @@ private slots:
         Harness h;
         apri(h, "FormGraf1", {v(3, 10), v(5, 10), v(2, 3), 0.0}, false);
         QCOMPARE(h.caption("EtNumero"), " 20 +  15 =");
-        QCOMPARE(dopo(h, "BotDecine1", 2), // the row is finished without a square
+        QCOMPARE(dopo(h, "BotDecine1*2"), // the row is finished without a square
                  "Forma il secondo addendo | Decina1 11 | BotDecine2 | BotUnita2 | si.wav");
-        clicca(h, "BotDecine2");
-        QCOMPARE(dopo(h, "BotUnita2", 5), // 5 units in all: no change
+        QCOMPARE(dopo(h, "BotDecine2 BotUnita2*5"), // 5 units in all: no change
                  "Inserisci il risultato. | Decina1 11 | Decina2 1 | Unita2 11111 | Risultato | si.wav");
         h.answer("Risultato", "abc");
         h.run(R"({"key": "Risultato", "code": 65})"); // any other key judges nothing
-        QCOMPARE(h.caption("EtichettaErrati"), " 1");
+        QCOMPARE(h.global("Errati"), 1);
         h.events();
         h.rnd({0.0, 0.0, v(4, 10), v(5, 10), v(1, 4), v(2, 5)});
         h.answer("Risultato", "35");
-        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
-        QCOMPARE(h.caption("EtNumero"), " 12 +  33 =");
+        QVERIFY(h.global("Esatti") == 1 && h.caption("EtNumero") == " 12 +  33 =" && h.enabled("Risultato"));
         QCOMPARE(stato(h), kPrimoAddendo + " | si1.wav");
-        QVERIFY(h.enabled("Risultato"));
-
-        QCOMPARE(dopo(h, "BotUnita1", 12),
+        QCOMPARE(dopo(h, "BotUnita1*12"),
                  "Forma il primo addendo | Unita1 111111111 | BotDecine1 | BotUnita1");
         QCOMPARE(dopo(h, "BottoneRicomincia"), "Forma il primo numero in alto | BotDecine1 | BotUnita1");
         QCOMPARE(h.caption("EtNumero"), " 12 +  33 =");
@@ -184,27 +172,23 @@ private slots:
         apri(h, "FormGrafMeno", {v(32, 79), v(22, 42)});
         QCOMPARE(h.caption("EtNumero"), " 52 -  27 =");
         QCOMPARE(stato(h), "Forma il primo numero | BotDecine1 | BotUnita1");
-        clicca(h, "BotUnita1", 2);
-        clicca(h, "Unita1(0)"); // not clickable while the number is built
-        QCOMPARE(dopo(h, "BotDecine1", 5),
-                 "Non hai unità sufficienti. Premi il bottone cambio per cambiare una decina in unità. | "
-                 "Decina1 11111 | Unita1 11 | Cambio | si.wav | si.wav | si.wav");
+        QCOMPARE(
+            dopo(h, "BotUnita1*2 Unita1(0) BotDecine1*5"), // no square clicked away while the number is built
+            "Non hai unità sufficienti. Premi il bottone cambio per cambiare una decina in unità. | "
+            "Decina1 11111 | Unita1 11 | Cambio | si.wav | si.wav | si.wav");
         QCOMPARE(dopo(h, "Cambio"), "Clicca con il mouse sulle sulle unità da eliminare. | Decina1 1111 | "
                                     "Unita1 11 | Unita2 1111111111 | si.wav");
-        clicca(h, "Decina1(0)"); // the longs wait their turn
-        for (const char* s :
-             {"Unita2(9)", "Unita1(0)", "Unita2(0)", "Unita2(4)", "Unita1(1)", "Unita2(1)", "Unita2(0)"})
-            clicca(h, s); // the last one is already gone
-        QCOMPARE(dopo(h, "Unita2(2)"),
-                 "Clicca con il mouse sulle sulle decine da eliminare. | Decina1 1111 | "
-                 "Unita2 000101111 | si.wav | si.wav");
-        clicca(h, "Unita2(3)"); // the squares are still now
-        clicca(h, "Decina1(3)");
-        QCOMPARE(dopo(h, "Decina1(0)"),
+        // the longs wait their turn; the last square clicked is already gone
+        QCOMPARE(
+            dopo(
+                h,
+                "Decina1(0) Unita2(9) Unita1(0) Unita2(0) Unita2(4) Unita1(1) Unita2(1) Unita2(0) Unita2(2)"),
+            "Clicca con il mouse sulle sulle decine da eliminare. | Decina1 1111 | "
+            "Unita2 000101111 | si.wav | si.wav");
+        QCOMPARE(dopo(h, "Unita2(3) Decina1(3) Decina1(0)"), // the squares are still now
                  "Inserisci il risultato. | Decina1 011 | Unita2 000101111 | Risultato | si.wav");
         h.answer("Risultato", "25");
-        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
-        QVERIFY(h.events("msgbox").isEmpty());
+        QVERIFY(h.global("Esatti") == 1 && h.events("msgbox").isEmpty());
     }
 
     // Steps with nothing to do are passed at once: 58 - 30 takes no unit, 58 - 3 no long; the result
@@ -214,35 +198,28 @@ private slots:
         QTest::addColumn<QString>("clic");        // the shapes clicked away
         QTest::addColumn<QString>("passo");
         QTest::addColumn<QString>("risultato");
-        QTest::newRow("58 - 30: no units") << QList<double>{v(3, 5), 0.0} << "Decina1"
-                                           << "decine"
+        QTest::newRow("58 - 30: no units") << QList<double>{v(3, 5), 0.0} << QString("Decina1") << "decine"
                                            << "28";
-        QTest::newRow("58 - 3: no tens") << QList<double>{0.0, v(3, 8)} << "Unita1"
-                                         << "unità"
+        QTest::newRow("58 - 3: no tens") << QList<double>{0.0, v(3, 8)} << QString("Unita1") << "unità"
                                          << "55";
     }
     void sottrazioneSenzaPassi() {
         QFETCH(QList<double>, draws);
         QFETCH(QString, clic);
         QFETCH(QString, passo);
-        QFETCH(QString, risultato);
         Harness h;
         apri(h, "FormGrafMeno1", QList<double>{v(5, 10), v(8, 10)} + draws);
-        clicca(h, "BotDecine1", 5);
-        clicca(h, "BotUnita1", 8);
-        clicca(h, clic + "(0)");
-        h.events();
+        dopo(h, "BotDecine1*5 BotUnita1*8 " + clic + "(0)");
         QCOMPARE(dopo(h, "BottoneRicomincia"), "Forma il primo numero. | BotDecine1 | BotUnita1");
-        clicca(h, "BotDecine1", 5);
-        clicca(h, "BotUnita1");
-        clicca(h, clic + "(0)"); // still
-        QCOMPARE(dopo(h, "BotUnita1", 7).section(" | ", 1, 2), "Decina1 11111 | Unita1 11111111");
-        clicca(h, clic + "(0)");
-        QCOMPARE(dopo(h, clic + "(1)").section(" | ", 0, 0),
+        QCOMPARE(dopo(h, QStringLiteral("BotDecine1*5 BotUnita1 %1(0) BotUnita1*7").arg(clic))
+                     .section(" | ", 1, 2),
+                 "Decina1 11111 | Unita1 11111111"); // the shape clicked while the number is built stays
+        QCOMPARE(dopo(h, QStringLiteral("%1(0) %1(1)").arg(clic)).section(" | ", 0, 0),
                  QStringLiteral("Clicca con il mouse sulle sulle %1 da eliminare.").arg(passo));
         QCOMPARE(dopo(h, clic + "(2)").section(" | ", 0, 0), "Inserisci il risultato.");
+        QFETCH(QString, risultato);
         h.answer("Risultato", risultato);
-        QCOMPARE(h.caption("EtichettaEsatti"), " 1");
+        QCOMPARE(h.global("Esatti"), 1);
     }
 
     // Each screen prints its own worksheet and comes back to a new question.
@@ -251,12 +228,11 @@ private slots:
         for (const QString form : {"FormGraf", "FormGraf1", "FormGrafMeno", "FormGrafMeno1"}) {
             Harness h;
             apri(h, form, {});
-            clicca(h, "BotDecine1");
+            dopo(h, "BotDecine1");
             h.run(R"({"menu": "mnuStampa"})");
             QCOMPARE(h.global("NumeroScheda"), scheda++);
             h.run(R"({"click": "BottoneEsci"})");
-            QCOMPARE(h.form(), form);
-            QVERIFY(stato(h).startsWith("Forma il primo") && !h.visible("Decina1(0)"));
+            QVERIFY(h.form() == form && stato(h).startsWith("Forma il primo") && !h.visible("Decina1(0)"));
         }
     }
 };

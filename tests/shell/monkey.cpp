@@ -1,13 +1,8 @@
-// Random use of the whole program, seeded so that a failure can be replayed: clicks, menu items,
-// keys typed and held, pastes, drags, all three mouse buttons, windows brought to the front and
-// closed. One run wanders from the start screen; then one run sets off from each button of the two
-// exercise menus (and from each of those exercises' worksheets), reached through the menus as a
-// child would, so that every screen there is gets its share however many there are. After each
-// action the program must still hold together: one active screen, one face, counters that agree
-// with their labels, questions that can be answered.
-//
-// CONTARELLO_MONKEY_ACTIONS and CONTARELLO_MONKEY_SEED make a longer run of one seed from the start
-// screen (scripts/monkey.sh runs one per core).
+// Seeded random use of the whole program: clicks, menus, keys typed and held, pastes, drags, all
+// mouse buttons, windows brought forward and closed. One long run from the start screen, then a
+// short one from each exercise of the two menus and each of their worksheets, reached as a child
+// would. After each action the program must hold together (see support/monkey.h).
+// CONTARELLO_MONKEY_SEED and CONTARELLO_MONKEY_ACTIONS make one longer run (scripts/monkey.sh).
 
 #include "support/monkey.h"
 #include "app/screens.h"
@@ -22,32 +17,27 @@ namespace {
 
 using Route = std::vector<QJsonObject>;
 
-QJsonObject click(const QString& control) {
-    return {{"click", control}};
+QJsonObject dumpAfter(const Route& route) {
+    DriverEngine engine;
+    for (const QJsonObject& c : route)
+        engine.execute(c);
+    return engine.execute({{"dump", true}});
 }
 
 // Every way from the start screen into an exercise, and on to its worksheet where it has one.
 QList<QPair<QString, Route>> Routes() {
     QList<QPair<QString, Route>> routes;
-    for (const QString menuButton : {"Command3", "Command2"}) {
-        DriverEngine menu;
-        menu.execute(click("BottoneAvvio"));
-        menu.execute(click(menuButton));
-        const QJsonObject controls = menu.execute({{"dump", true}}).value("controls").toObject();
-        for (const QString& button : controls.keys()) {
+    for (const QString menu : {"Command3", "Command2"}) {
+        const Route toMenu = {{{"click", "BottoneAvvio"}}, {{"click", menu}}};
+        for (const QString& button : dumpAfter(toMenu).value("controls").toObject().keys()) {
             if (!button.startsWith("Command") || button == "Command1") continue;
-            const Route way = {click("BottoneAvvio"), click(menuButton), click(button)};
-            DriverEngine probe;
-            for (const QJsonObject& c : way)
-                probe.execute(c);
-            const QJsonObject d = probe.execute({{"dump", true}});
-            const QString screen = d.value("form").toString();
-            routes.append({screen, way});
-            if (d.value("controls").toObject().contains("mnuStampa")) {
-                Route toSheet = way;
-                toSheet.push_back({{"menu", "mnuStampa"}});
-                routes.append({screen + " worksheet", toSheet});
-            }
+            Route way = toMenu;
+            way.push_back({{"click", button}});
+            const QJsonObject d = dumpAfter(way);
+            routes.append({d.value("form").toString(), way});
+            if (!d.value("controls").toObject().contains("mnuStampa")) continue;
+            way.push_back({{"menu", "mnuStampa"}});
+            routes.append({d.value("form").toString() + " worksheet", way});
         }
     }
     return routes;

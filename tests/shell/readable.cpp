@@ -1,6 +1,5 @@
-// What a child must be able to see: every caption readable on every background a screen can take,
-// the "avanti" arrow plainly on or off, the choice panels inside their screen with the choice in
-// force marked, and boxes wide enough for their title.
+// What a child must be able to see: captions readable on every background, "avanti" plainly on or
+// off, choice panels with the choice in force marked, and boxes wide enough for their title.
 
 #include "app/screens.h"
 #include "shell/colori.h"
@@ -10,9 +9,6 @@
 #include "support/harness.h"
 
 #include <QApplication>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
@@ -22,8 +18,7 @@ using namespace contarello::test;
 
 namespace {
 
-// Large bold captions need this much contrast to be read comfortably; every caption here is
-// bold, 12 points or more.
+// Enough for large bold captions; every caption here is bold, 12 points or more.
 constexpr double kContrastoMinimo = 3.0;
 
 // What the caption is painted on, found from the widgets themselves: a button's face, a box's
@@ -32,7 +27,7 @@ QColor behind(Control* c) {
     QWidget* w = c->widget();
     if (qobject_cast<QRadioButton*>(w)) return c->captionGround();
     if (qobject_cast<QAbstractButton*>(w)) return w->palette().color(QPalette::Button);
-    if (qobject_cast<QLineEdit*>(w) || qobject_cast<QPlainTextEdit*>(w) || qobject_cast<QListWidget*>(w))
+    if (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit") || w->inherits("QListWidget"))
         return w->palette().color(QPalette::Base);
     for (; w; w = w->parentWidget()) {
         if (auto* f = qobject_cast<Form*>(w)) return f->BackColor();
@@ -41,8 +36,8 @@ QColor behind(Control* c) {
     return {};
 }
 
-// Every enabled control with a caption whose colour is too close to what it stands on, shown or
-// not: a hidden one shows later on the same background.
+// Every enabled caption too close in colour to what it stands on, shown or not: a hidden one shows
+// later on the same background.
 QStringList unreadable(Form* form, const QString& where) {
     form->grab(); // paints what shows, as the screen on the display does
     QStringList bad;
@@ -71,27 +66,26 @@ int saturation(const QImage& im) {
 
 class ReadableTest : public QObject {
     Q_OBJECT
+    static Form* show(Harness& h, const QString& name) {
+        h.run(QStringLiteral(R"J({"show": "%1"})J").arg(name));
+        return h.engine.program().nav.find(name);
+    }
 private slots:
     // Every screen of the program at every colour its background can take.
     void captionsOnEveryBackground() {
         QStringList bad;
         for (const FormEntry& entry : FormTable()) {
             Harness h;
-            h.dump();
-            h.run(QStringLiteral(R"J({"show": "%1"})J").arg(QLatin1String(entry.name)));
-            Form* form = h.engine.program().nav.find(QLatin1String(entry.name));
+            const QString name = QLatin1String(entry.name);
+            Form* form = show(h, name);
             QVERIFY(form);
             const std::optional<Variante> v = VarianteDi(*form);
-            if (!v) {
-                bad << unreadable(form, QLatin1String(entry.name));
-                continue;
-            }
-            for (int slot = 1; slot <= 18; ++slot) {
+            if (!v) bad << unreadable(form, name);
+            for (int slot = 1; v && slot <= 18; ++slot) {
                 h.rnd({(slot - 0.5) / 18});
                 CaricaColori(*form, *v);
                 QCOMPARE(form->BackColor(), ColoreSlot(*v, slot));
-                bad << unreadable(form,
-                                  QStringLiteral("%1 slot %2").arg(QLatin1String(entry.name)).arg(slot));
+                bad << unreadable(form, QStringLiteral("%1 slot %2").arg(name).arg(slot));
             }
         }
         QVERIFY2(bad.isEmpty(), qPrintable(bad.join(u'\n')));
@@ -100,15 +94,14 @@ private slots:
     // The numbers placed on FormOrd and the digits left to drag on FormCol2, once they show.
     void captionsAfterMoves() {
         Harness h;
-        h.dump();
+        h.dump();        // the start screen takes its colour first
         h.rnd({0.4166}); // slot 8, #c04000
-        h.run(R"J({"show": "FormCol2"})J");
+        Form* col = show(h, "FormCol2");
         h.run(R"J({"drag": "Lu1", "to": "Eu1"})J");
-        QStringList bad = unreadable(h.engine.program().nav.find(QStringLiteral("FormCol2")), "FormCol2");
+        QStringList bad = unreadable(col, "FormCol2");
         h.rnd({0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.9444}); // two questions in Load: the second is blue
-        h.run(R"J({"show": "FormOrd"})J");
+        Form* ord = show(h, "FormOrd");
         h.run(R"J({"click": "ComandoNumero(0)"})J");
-        Form* ord = h.engine.program().nav.find(QStringLiteral("FormOrd"));
         QCOMPARE(colourName(ord->BackColor()), QStringLiteral("#0000ff"));
         bad << unreadable(ord, "FormOrd");
         QVERIFY2(bad.isEmpty(), qPrintable(bad.join(u'\n')));
@@ -117,9 +110,7 @@ private slots:
     // Off, the arrow is grey on any background; on, it has a colour of its own.
     void avantiLooksOnOrOff() {
         Harness h;
-        h.dump();
-        h.run(R"J({"show": "Form1"})J");
-        Form* form = h.engine.program().nav.find(QStringLiteral("Form1"));
+        Form* form = show(h, "Form1");
         QWidget* avanti = form->find(QStringLiteral("BottoneAvanti"))->widget();
         QVERIFY(avanti->isVisible() && !avanti->isEnabled());
         for (QColor c : {QColor(0xff, 0x00, 0x00), QColor(0x00, 0x00, 0xff), QColor(0xff, 0xff, 0x00)}) {
@@ -130,7 +121,7 @@ private slots:
         QVERIFY(saturation(avanti->grab().toImage()) > 150);
     }
 
-    // The panels lie inside their screen, with targets a small hand hits, and mark the choice in force.
+    // The panels cover their screen, with targets a small hand hits, and mark the choice in force.
     void panels_data() {
         QTest::addColumn<QString>("form");
         QTest::addColumn<int>("limit");
@@ -145,32 +136,25 @@ private slots:
         QFETCH(int, limit);
         QFETCH(QString, chosen);
         const bool ord = form == "FormOrd";
-        const QString menu = ord ? "MenuQuantiNumeri" : "mnuNumeroMassimo";
-        const QString panel = ord ? "EtNumeri" : "CorniceNumeroMassimo";
+        const QString menu =
+            QStringLiteral(R"J({"menu": "%1"})J").arg(ord ? "MenuQuantiNumeri" : "mnuNumeroMassimo");
         Harness h;
-        h.dump();
         h.setLimit(limit);
-        h.run(QStringLiteral(R"J({"show": "%1"})J").arg(form));
-        // A choice made before, then the limit changed behind the panel's back.
-        if (!ord) {
-            h.run(QStringLiteral(R"J({"menu": "%1"})J").arg(menu));
-            h.run(R"J({"click": "OpzioneNumeroMassimo(0)"})J");
+        Form* f = show(h, form);
+        if (!ord) { // a choice made before, then the limit changed behind the panel's back
+            h.script(menu + "\n" + R"J({"click": "OpzioneNumeroMassimo(0)"})J");
             h.engine.program().g.NumeroMassimo = int16_t(limit);
         }
-        h.run(QStringLiteral(R"J({"menu": "%1"})J").arg(menu));
-        Form* f = h.engine.program().nav.find(form);
-        QWidget* p = f->find(panel)->widget();
+        h.run(menu);
+        QWidget* p = f->find(ord ? "EtNumeri" : "CorniceNumeroMassimo")->widget();
         QCOMPARE(p->geometry(), f->client()->rect());
-        int options = 0;
-        for (Control* c : f->controls()) {
-            auto* o = qobject_cast<QRadioButton*>(c->widget());
-            if (!o || o->parentWidget() != p) continue;
-            ++options;
-            QVERIFY2(p->rect().contains(o->geometry()), qPrintable(c->name()));
-            QVERIFY2(o->height() >= 48 && o->width() >= 120, qPrintable(c->name()));
-            QCOMPARE(o->isChecked(), c->name() == chosen);
+        const QList<QRadioButton*> options = p->findChildren<QRadioButton*>();
+        QVERIFY(options.size() >= 6);
+        for (QRadioButton* o : options) {
+            QVERIFY2(p->rect().contains(o->geometry()) && o->height() >= 48 && o->width() >= 120,
+                     qPrintable(o->objectName()));
+            QCOMPARE(o->isChecked(), o->objectName() == chosen);
         }
-        QVERIFY(options >= 6);
     }
 
     // The real boxes, closed as soon as they show: room for the title beside the bar's icon and
@@ -178,10 +162,7 @@ private slots:
     void boxesShowTheirTitle() {
         Harness h; // the application's fonts as the program has them
         QtDialogs dialogs;
-        const std::function<void()> boxes[] = {
-            [&] { dialogs.MsgBox(QStringLiteral("Bravo"), 0, kTitolo); },
-            [&] { dialogs.InputBox(QStringLiteral("Quanti?"), kTitolo, QString()); }};
-        for (const auto& show : boxes) {
+        for (int input = 0; input < 2; ++input) {
             int width = 0, room = 0;
             QTimer::singleShot(0, [&] {
                 QWidget* box = QApplication::activeModalWidget();
@@ -190,7 +171,8 @@ private slots:
                 room = QFontMetrics(box->font()).horizontalAdvance(kTitolo) + 120;
                 box->close();
             });
-            show();
+            input ? void(dialogs.InputBox("Quanti?", kTitolo, QString()))
+                  : void(dialogs.MsgBox("Bravo", 0, kTitolo));
             QVERIFY2(width >= room, qPrintable(QStringLiteral("%1 < %2").arg(width).arg(room)));
         }
     }

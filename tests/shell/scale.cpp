@@ -12,7 +12,7 @@ using contarello::test::Harness;
 
 namespace {
 
-// Every control's place on the screen, and the screen's own size, with its pictures' sizes.
+// Every control's place on the screen, and the screen's own size.
 QMap<QString, QRect> Places(const QString& screen, double factor) {
     SetScaleFactor(factor);
     Harness h;
@@ -47,7 +47,7 @@ private slots:
         QVERIFY(qAbs(ChooseScaleFactor(available) - factor) < 1e-9);
     }
 
-    // Geometry and the menu bar grow together: nothing is placed apart from the rest.
+    // Geometry, text and the menu bar grow together: nothing is placed apart from the rest.
     void twiceAsLargeAtFactorTwo_data() {
         QTest::addColumn<QString>("screen");
         QTest::newRow("a question screen") << "Form1";
@@ -61,19 +61,14 @@ private slots:
         for (const QString& name : one.keys()) {
             const QRect a = one[name], b = two[name];
             // The menu bar's height follows its font, so a control may sit a pixel or two off.
-            const bool close = qAbs(b.x() - 2 * a.x()) <= 2 && qAbs(b.y() - 2 * a.y()) <= 3 &&
-                               qAbs(b.width() - 2 * a.width()) <= 2 && qAbs(b.height() - 2 * a.height()) <= 2;
-            QVERIFY2(close, qPrintable(QStringLiteral("%1: %2,%3 %4x%5 at 1, %6,%7 %8x%9 at 2")
-                                           .arg(name)
-                                           .arg(a.x())
-                                           .arg(a.y())
-                                           .arg(a.width())
-                                           .arg(a.height())
-                                           .arg(b.x())
-                                           .arg(b.y())
-                                           .arg(b.width())
-                                           .arg(b.height())));
+            QVERIFY2(qAbs(b.x() - 2 * a.x()) <= 2 && qAbs(b.y() - 2 * a.y()) <= 3 &&
+                         qAbs(b.width() - 2 * a.width()) <= 2 && qAbs(b.height() - 2 * a.height()) <= 2,
+                     qPrintable(name));
         }
+        SetScaleFactor(2);
+        const QFont big = Arial(18);
+        SetScaleFactor(1);
+        QCOMPARE(big.pointSizeF(), Arial(18).pointSizeF() * 2);
     }
 
     // F11 fills the display with the screen's own colour and keeps the screen, unchanged, in the middle.
@@ -85,20 +80,12 @@ private slots:
         const QPoint at = form->client()->mapTo(form, QPoint(0, 0));
         form->activateWindow();
         QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
-        QTRY_VERIFY(form->isFullScreen());
-        QVERIFY(form->width() >= size.width());
+        QTRY_VERIFY(form->isFullScreen() && form->width() > size.width()); // the display is 800 wide
         const QPoint centred = form->client()->mapTo(form, QPoint(0, 0));
         QCOMPARE(centred.x() - at.x(), (form->width() - size.width()) / 2);
         QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
         QTRY_VERIFY(!form->isFullScreen());
         QCOMPARE(form->size(), size);
-    }
-
-    void textAndPicturesGrowWithTheFactor() {
-        SetScaleFactor(2);
-        const QFont big = Arial(18);
-        SetScaleFactor(1);
-        QCOMPARE(big.pointSizeF(), Arial(18).pointSizeF() * 2);
     }
 };
 

@@ -1,9 +1,8 @@
-// The driver as others use it: each script in tests/scripts goes through the real driver program,
-// line by line. A line {"expect": {...}} checks the answer to the command before it; what it names
-// must be there with that value, what it leaves out may be anything.
+// Each script in tests/scripts through the real driver program, line by line. A line
+// {"expect": {...}} checks the answer to the command before it: what it names must be there with
+// that value, what it leaves out may be anything; arrays match element by element.
 
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -12,31 +11,24 @@
 
 namespace {
 
-// Whether every part of expected stands in actual; arrays must match element by element.
 QString mismatch(const QJsonValue& expected, const QJsonValue& actual, const QString& path) {
-    if (expected.isObject()) {
-        if (!actual.isObject()) return path + " is not an object";
-        const QJsonObject e = expected.toObject(), a = actual.toObject();
-        for (auto it = e.begin(); it != e.end(); ++it) {
-            if (!a.contains(it.key())) return path + "." + it.key() + " is missing";
-            const QString m = mismatch(it.value(), a.value(it.key()), path + "." + it.key());
+    if (expected.isObject() || expected.isArray()) {
+        const bool array = expected.isArray();
+        if (actual.type() != expected.type() ||
+            (array && actual.toArray().size() != expected.toArray().size()))
+            return path + " has another kind or length";
+        const QStringList keys = array ? QStringList() : expected.toObject().keys();
+        for (qsizetype i = 0; i < (array ? expected.toArray().size() : keys.size()); ++i) {
+            const QString m = array ? mismatch(expected[i], actual[i], path + '[' + QString::number(i) + ']')
+                                    : mismatch(expected[keys[i]], actual[keys[i]], path + '.' + keys[i]);
             if (!m.isEmpty()) return m;
         }
         return {};
     }
-    if (expected.isArray()) {
-        const QJsonArray e = expected.toArray(), a = actual.toArray();
-        if (!actual.isArray() || e.size() != a.size()) return path + " has another length";
-        for (int i = 0; i < e.size(); ++i) {
-            const QString m = mismatch(e[i], a[i], path + "[" + QString::number(i) + "]");
-            if (!m.isEmpty()) return m;
-        }
-        return {};
-    }
-    if (expected != actual)
-        return path + ": expected " + QJsonDocument(QJsonArray{expected}).toJson(QJsonDocument::Compact) +
-               " got " + QJsonDocument(QJsonArray{actual}).toJson(QJsonDocument::Compact);
-    return {};
+    const auto json = [](const QJsonValue& v) {
+        return QJsonDocument(QJsonArray{v}).toJson(QJsonDocument::Compact);
+    };
+    return expected == actual ? QString() : path + ": expected " + json(expected) + " got " + json(actual);
 }
 
 } // namespace
@@ -60,16 +52,15 @@ private slots:
             const QByteArray line = raw.trimmed();
             if (line.isEmpty() || line.startsWith("//")) continue;
             const QJsonObject o = QJsonDocument::fromJson(line).object();
-            if (o.contains(QStringLiteral("expect")))
-                expectations.append({int(commands.size()) - 1, o.value(QStringLiteral("expect")).toObject()});
+            if (o.contains("expect"))
+                expectations.append({int(commands.size()) - 1, o.value("expect").toObject()});
             else
                 commands.append(line);
         }
         QProcess driver;
         driver.start(QCoreApplication::applicationDirPath() + QStringLiteral("/contarello-driver"), {});
         QVERIFY(driver.waitForStarted());
-        for (const QByteArray& c : commands)
-            driver.write(c + '\n');
+        driver.write(commands.join('\n') + '\n');
         driver.closeWriteChannel();
         QVERIFY(driver.waitForFinished(60000));
         QCOMPARE(driver.exitCode(), 0);
@@ -77,10 +68,8 @@ private slots:
         QCOMPARE(answers.size(), commands.size()); // one answer a line, in order
         for (const auto& [index, expected] : expectations) {
             QVERIFY(index >= 0);
-            const QString m = mismatch(expected, QJsonDocument::fromJson(answers[index]).object(),
-                                       QStringLiteral("answer"));
-            if (!m.isEmpty())
-                QFAIL(qPrintable(QStringLiteral("after ") + QString::fromUtf8(commands[index]) + ": " + m));
+            const QString m = mismatch(expected, QJsonDocument::fromJson(answers[index]).object(), "answer");
+            QVERIFY2(m.isEmpty(), qPrintable("after " + QString::fromUtf8(commands[index]) + ": " + m));
         }
     }
 };
