@@ -1,5 +1,6 @@
-// The twelve stepping screens: scripted draws in, the question and its answer out, at the ends of
-// each range, under the limit the adult sets from the main menu.
+// The screens that ask for one number on a line: the twelve stepping screens, the number before,
+// after and between, the number as tens and units, and in words. Under the limit set from the main
+// menu, at the ends of each range: the draws in; the instruction, question, answer and worksheet out.
 
 #include "support/harness.h"
 
@@ -8,100 +9,102 @@
 using contarello::test::Harness;
 
 namespace {
-struct Passo {
+struct Domanda {
     QString form;
     int limit;
-    QList<double> draws;
-    QString caption;
-    int esatto;
-    int scheda; // the worksheet the screen prints
+    QList<double> draws; // with the colour, c, where the screen draws it
+    QString domanda, risposta;
+    int scheda;
+    QString dopo = {}; // the line after the right answer, when it is not the question and the answer
 };
-} // namespace
-Q_DECLARE_METATYPE(Passo)
 
-static void riga(const char* name, const Passo& passo) {
-    QTest::newRow(name) << passo;
-}
+const QString kCifre = QStringLiteral("Scrivi il numero in cifre");
+// clang-format off
+const QMap<QString, QString> kConsegne{
+    {"Formpri", "Scrivi il numero precedente"}, {"Formdopo", "Scrivi il numero seguente"},
+    {"Formmez", "Scrivi il numero in mezzo"}, {"Formesp", kCifre}, {"FormSimb", kCifre}, {"FormScri", kCifre},
+    {"FormScri2", "Scrivi il numero in lettere"}};
+// clang-format on
+} // namespace
+Q_DECLARE_METATYPE(Domanda)
 
 class SteppingTest : public QObject {
     Q_OBJECT
 private slots:
     void domanda_data();
     void domanda() {
-        QFETCH(Passo, passo);
+        QFETCH(Domanda, d);
         Harness h;
-        h.setLimit(passo.limit);
-        for (double d : passo.draws)
-            h.rnd({d});
-        h.rnd({0.12}); // slot 3, the one slot where variant A differs from the others
-        h.run(QStringLiteral(R"j({"show": "%1"})j").arg(passo.form));
-        QCOMPARE(h.caption("EtichettaNumero"), passo.caption);
-        // The colour is drawn after the question, from variant A.
-        QCOMPARE(h.dump().value("backcolor").toString(), QStringLiteral("#ff0000"));
-
-        h.answer("Text1", QString::number(passo.esatto));
+        h.setLimit(d.limit);
+        for (double x : d.draws)
+            h.rnd({x});
+        h.run(QStringLiteral(R"({"show": "%1"})").arg(d.form));
+        QCOMPARE(h.dump().value("controls")["Label3"]["caption"].toString(), kConsegne.value(d.form));
+        QCOMPARE(h.caption("EtichettaNumero"), d.domanda);
+        h.answer("Text1", d.risposta);
         QCOMPARE(h.global("Esatti"), 1);
-        QCOMPARE(h.caption("EtichettaNumero"), passo.caption + QString::number(passo.esatto));
-        h.run(R"j({"menu": "mnuStampa"})j");
-        QCOMPARE(h.global("NumeroScheda"), passo.scheda);
-    }
-
-    // A result of 0 must be answerable: a text with no digit at all counts as 0.
-    void risultatoZero() {
-        Harness h;
-        h.rnd({0.5, 0.0, 0.0}); // the start screen, then ten and a result of 0
-        h.run(R"j({"show": "Form10ma"})j");
-        h.answer("Text1", "zero");
-        QCOMPARE(h.global("Esatti"), 1);
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 10 -  10 = zero"));
+        // FormSimb's question has no equals sign of its own, so the answer comes after one.
+        const QString dopo = d.form == "FormSimb" ? d.domanda + " = " + d.risposta : d.domanda + d.risposta;
+        QCOMPARE(h.caption("EtichettaNumero"), d.dopo.isEmpty() ? dopo : d.dopo);
+        h.run(QStringLiteral(R"({"menu": "%1"})").arg(d.form == "FormSimb" ? "mnustampa" : "mnuStampa"));
+        QCOMPARE(h.global("NumeroScheda"), d.scheda);
     }
 };
 
 void SteppingTest::domanda_data() {
-    QTest::addColumn<Passo>("passo");
-    const double hi = 0.9999;
+    QTest::addColumn<Domanda>("d");
+    const double hi = 0.9999, c = 0.12;
+    const auto riga = [](const char* name, const Domanda& d) { QTest::newRow(name) << d; };
     // clang-format off
-    riga("Form1 lowest",                  {"Form1",      99, {0},           " 0 + 1 = ",     1,  9});
-    riga("Form1 highest at 99",           {"Form1",      99, {hi},          " 98 + 1 = ",    99, 9});
-    riga("Form1 highest at 20",           {"Form1",      20, {hi},          " 19 + 1 = ",    20, 9});
-    riga("Form10 lowest",                 {"Form10",     99, {0},           " 0 + 10 = ",    10, 10});
-    riga("Form10 never reaches 99",       {"Form10",     99, {hi},          " 88 + 10 = ",   98, 10});
-    riga("Form10 highest at 20",          {"Form10",     20, {hi},          " 9 + 10 = ",    19, 10});
-    riga("Form100 k=1 is plus one",       {"Form100",    99, {0, 0.5},      " 49 + 1 = ",    50, 11});
-    riga("Form100 k=2 is plus ten",       {"Form100",    99, {0.5, 0},      " 0 + 10 = ",    10, 11});
-    riga("Form1a adds 0",                 {"Form1a",     99, {0, 0},        " 10 +  0 = ",   10, 19});
-    riga("Form1a highest at 99",          {"Form1a",     99, {hi, hi},      " 88 +  9 = ",   97, 19});
-    riga("Form1a highest at 20",          {"Form1a",     20, {hi, 0},       " 18 +  0 = ",   18, 19});
-    riga("Form10a lowest",                {"Form10a",    99, {0, 0},        " 0 +  10 = ",   10, 20});
-    riga("Form10a ninety at 99",          {"Form10a",    99, {hi, 0.5},     " 4 +  90 = ",   94, 20});
-    riga("Form10a ninety at 90",          {"Form10a",    90, {hi, hi},      " 0 +  90 = ",   90, 20});
-    riga("Form10a fitting ten kept at 50",{"Form10a",    50, {0.5, 0},      " 0 +  50 = ",   50, 20});
-    riga("Form10a ninety drawn again",    {"Form10a",    50, {hi, 0.3, 0},  " 0 +  30 = ",   30, 20});
-    riga("Form10a tens within 20 at last",{"Form10a",    20, {hi, hi, hi, hi, hi}, " 0 +  20 = ", 20, 20});
-    riga("Form10a ten at 20",             {"Form10a",    20, {0, hi},       " 9 +  10 = ",   19, 20});
-    riga("Form100bis units",              {"Form100bis", 99, {0, hi, hi},   " 89 +  9 = ",   98, 23});
-    riga("Form100bis tens",               {"Form100bis", 99, {0.5, hi, hi}, " 8 +  90 = ",   98, 23});
-    riga("Form100bis units at 20",        {"Form100bis", 20, {0, hi, 0},    " 19 +  0 = ",   19, 23});
-    riga("Form100bis tens at 20",         {"Form100bis", 20, {0.5, hi, hi, hi, hi, hi}, " 0 +  20 = ", 20, 23});
-    riga("Form1ma lowest",                {"Form1ma",    99, {0},           " 2 - 1 = ",     1,  14});
-    riga("Form1ma highest at 99",         {"Form1ma",    99, {hi},          " 99 - 1 = ",    98, 14});
-    riga("Form1ma highest at 20",         {"Form1ma",    20, {hi},          " 20 - 1 = ",    19, 14});
-    riga("Form10m lowest",                {"Form10m",    99, {0},           " 20 -  10 = ",  10, 12});
-    riga("Form10m passes the limit",      {"Form10m",    99, {hi},          " 107 -  10 = ", 97, 12});
-    riga("Form10m highest at 20",         {"Form10m",    20, {hi},          " 28 -  10 = ",  18, 12});
-    riga("Form100m k=1",                  {"Form100m",   99, {0, hi},       " 97 - 1 = ",    96, 13});
-    riga("Form100m k=2",                  {"Form100m",   99, {0.5, hi},     " 106 - 10 = ",  96, 13});
-    riga("Form100m k=2 at 20",            {"Form100m",   20, {0.5, 0},      " 20 - 10 = ",   10, 13});
-    riga("Form1m result before step",     {"Form1m",     99, {hi, 0.5},     " 102 -  5 = ",  97, 21});
-    riga("Form1m takes 0 at 20",          {"Form1m",     20, {0, 0},        " 10 -  0 = ",   10, 21});
-    riga("Form10ma result 0",             {"Form10ma",   99, {0, 0},        " 10 -  10 = ",  0,  22});
-    riga("Form10ma ninety at 99",         {"Form10ma",   99, {hi, 0.5},     " 94 -  90 = ",  4,  22});
-    riga("Form10ma ninety redrawn at 90", {"Form10ma",   90, {hi, 0.8, hi}, " 88 -  80 = ",  8,  22});
-    riga("Form10ma only ten at 20",       {"Form10ma",   20, {hi, hi, hi, hi, hi}, " 18 -  10 = ", 8, 22});
-    riga("Form100ma units",               {"Form100ma",  99, {0, hi, hi},   " 99 -  9 = ",   90, 24});
-    riga("Form100ma tens",                {"Form100ma",  99, {0.5, hi, hi}, " 99 -  90 = ",  9,  24});
-    riga("Form100ma ten at 20",           {"Form100ma",  20, {0.5, 0, hi},  " 20 -  10 = ",  10, 24});
-    riga("Form100ma twenty at 20",        {"Form100ma",  20, {0.5, hi, hi, hi, hi, hi}, " 21 -  20 = ", 1, 24});
+    // The stepping screens draw the colour after the question.
+    riga("Form1 lowest",              {"Form1",      99, {0, c},           " 0 + 1 = ",    "1",  9});
+    riga("Form1 highest at 20",       {"Form1",      20, {hi, c},          " 19 + 1 = ",   "20", 9});
+    riga("Form10 below the limit",    {"Form10",     20, {hi, c},          " 9 + 10 = ",   "19", 10});
+    riga("Form100 k=1 is plus one",   {"Form100",    99, {0, 0.5, c},      " 49 + 1 = ",   "50", 11});
+    riga("Form100 k=2 is plus ten",   {"Form100",    99, {0.5, 0, c},      " 0 + 10 = ",   "10", 11});
+    riga("Form1a adds 0",             {"Form1a",     99, {0, 0, c},        " 10 +  0 = ",  "10", 19});
+    riga("Form1a highest at 20",      {"Form1a",     20, {hi, hi, c},      " 9 +  9 = ",   "18", 19});
+    riga("Form10a 90 kept at 90",     {"Form10a",    90, {hi, hi, c},      " 0 +  90 = ",  "90", 20});
+    riga("Form10a 90 drawn again",    {"Form10a",    50, {hi, 0.3, 0, c},  " 0 +  30 = ",  "30", 20});
+    riga("Form10a 20 at last", {"Form10a", 20, {hi, hi, hi, hi, hi, c}, " 0 +  20 = ", "20", 20});
+    riga("Form10a 10 at 20",          {"Form10a",    20, {0, hi, c},       " 9 +  10 = ",  "19", 20});
+    riga("Form100bis units at 20",    {"Form100bis", 20, {0, hi, hi, c},   " 10 +  9 = ",  "19", 23});
+    riga("Form100bis tens",           {"Form100bis", 99, {0.5, hi, hi, c}, " 8 +  90 = ",  "98", 23});
+    riga("Form1ma highest at 20",     {"Form1ma",    20, {hi, c},          " 20 - 1 = ",   "19", 14});
+    riga("Form10m passes the limit",  {"Form10m",    20, {hi, c},          " 28 -  10 = ", "18", 12});
+    riga("Form100m k=1 at 20",        {"Form100m",   20, {0, hi, c},       " 18 - 1 = ",   "17", 13});
+    riga("Form100m k=2 at 20",        {"Form100m",   20, {0.5, hi, c},     " 27 - 10 = ",  "17", 13});
+    riga("Form1m result first",       {"Form1m",     99, {hi, 0.5, c},     " 102 -  5 = ", "97", 21});
+    riga("Form1m takes 0 at 20",      {"Form1m",     20, {0, 0, c},        " 10 -  0 = ",  "10", 21});
+    riga("Form10ma result 0",         {"Form10ma",   99, {0, 0, c},        " 10 -  10 = ", "0",  22});
+    riga("Form10ma 90 redrawn at 90", {"Form10ma",   90, {hi, 0.8, hi, c}, " 88 -  80 = ", "8",  22});
+    riga("Form10ma only 10 at 20", {"Form10ma", 20, {hi, hi, hi, hi, hi, c}, " 18 -  10 = ", "8", 22});
+    riga("Form100ma units",           {"Form100ma",  99, {0, hi, hi, c},   " 99 -  9 = ",  "90", 24});
+    riga("Form100ma tens",            {"Form100ma",  99, {0.5, hi, hi, c}, " 99 -  90 = ", "9",  24});
+    riga("Form100ma 20 at 20", {"Form100ma", 20, {0.5, hi, hi, hi, hi, hi, c}, " 21 -  20 = ", "1", 24});
+    // The number before, after and between: the colour after the number, and the line written out.
+    riga("Formpri two blanks", {"Formpri",  99, {0, c},  "  ___  2",       "1",  7, " 1   2"});
+    riga("Formpri 100 at 99",  {"Formpri",  99, {hi, c}, "  ___  100",     "99", 7, " 99   100"});
+    riga("Formdopo after 0",   {"Formdopo", 99, {0, c},  " 0 ___",         "1",  6, " 0  1"});
+    riga("Formdopo highest",   {"Formdopo", 99, {hi, c}, " 98 ___",        "99", 6, " 98  99"});
+    riga("Formmez lowest",     {"Formmez",  99, {0, c},  " 0 _______ 2",   "1",  5, " 0   1  2"});
+    riga("Formmez at 20",      {"Formmez",  20, {hi, c}, " 17 _______ 19", "18", 5, " 17   18  19"});
+    // Tens and units in brackets: the colour first; blanks around the answer stay in the line.
+    riga("Formesp two blanks",    {"Formesp", 99, {c, 0.47}, "(10 x  4) + (1 x  7) = ", " 47 ", 8});
+    riga("Formesp no plus",       {"Formesp", 99, {c, 0.4},  "(10 x  4) = ",            "40",   8});
+    riga("Formesp units, lowest", {"Formesp", 99, {c, 0},    "(1 x  1) = ",             "1",    8});
+    riga("Formesp at 20",         {"Formesp", 20, {c, hi},   "(10 x  2) = ",            "20",   8});
+    // Tens and units told as da and u: the colour, which part (any number, tens, units), the number,
+    // then the order; the answer stands as the child wrote it.
+    riga("FormSimb tens first",    {"FormSimb", 99, {c, 0, 0.47, 0.5},  " 4 da    7 u", "47.", 2});
+    riga("FormSimb units first",   {"FormSimb", 99, {c, 0, 0.47, 0},    " 7 u 4 da   ", "47",  2});
+    riga("FormSimb whole tens",    {"FormSimb", 99, {c, 0.34, hi, 0},   " 9 da   ",     "90",  2});
+    riga("FormSimb units alone",   {"FormSimb", 99, {c, 0.51, hi, 0.5}, " 9 u",         "9",   2});
+    riga("FormSimb any up to 20",  {"FormSimb", 20, {c, hi, hi, 0.5},   " 2 da   ",     "20",  2});
+    riga("FormSimb tens up to 20", {"FormSimb", 20, {c, 0.34, hi, 0},   " 2 da   ",     "20",  2});
+    // The words screens: the colour first; the question stays as it was.
+    riga("FormScri the word",    {"FormScri",  99, {c, 0.42}, "QUARANTADUE", "42",          1, "QUARANTADUE"});
+    riga("FormScri2 the digits", {"FormScri2", 99, {c, 0.42}, " 42",         "QUARANTADUE", 1, " 42"});
     // clang-format on
 }
 

@@ -1,160 +1,83 @@
-// The two words screens end to end: the word or the digits asked, what a child really types, and
-// the limit panel.
+// The two words screens: what a child really types, the menus and the limit panel. The questions
+// themselves are rows of the table in stepping.cpp.
 
 #include "support/harness.h"
 
 #include <QTest>
 
-using namespace contarello;
-using namespace contarello::test;
+using contarello::test::Harness;
 
 namespace {
 
-// The draw that asks for e under the limit n: Int(Rnd * n) + 1.
-double drawFor(int e, int n = 99) {
-    return (e - 1 + 0.5) / n;
-}
-
-// Opens a words screen asking for e, with colour slot 17 (#ffc0ff) drawn before the number.
+// Opens a words screen asking for e (Int(Rnd * 99) + 1), with colour slot 17 (#ffc0ff) drawn
+// before the number.
 void open(Harness& h, const QString& form, int e) {
-    h.dump(); // the program starts, with its own colour
-    h.events();
-    h.rnd({16.5 / 18, drawFor(e)});
+    h.events(); // the program starts, with its own colour
+    h.rnd({16.5 / 18, (e - 0.5) / 99});
     h.run(QStringLiteral(R"({"show": "%1"})").arg(form));
 }
 
-void enter(Harness& h) {
-    h.run(R"({"key": "Text1", "code": 13})");
-}
-
-// One answer: "type" goes through the keys, "settext" is a paste.
-void row(const char* name, const char* form, int numero, const char* entered, const char* shown, bool right,
-         const char* how = "type") {
-    QTest::newRow(name) << form << numero << how << QString::fromUtf8(entered) << QString::fromUtf8(shown)
-                        << right;
-}
+struct Risposta {
+    QString form;
+    int numero;
+    QString scritto, mostrato; // typed through the keys, or pasted
+    bool giusta, incollata = false;
+};
 
 } // namespace
+Q_DECLARE_METATYPE(Risposta)
 
 class WordsTest : public QObject {
     Q_OBJECT
 private slots:
-    void theQuestion_data() {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<QString>("domanda");
-        QTest::addColumn<QString>("consegna");
-        QTest::addColumn<int>("randomize");
-        QTest::newRow("the word on FormScri") << "FormScri"
-                                              << "QUARANTADUE"
-                                              << "Scrivi il numero in cifre" << 1;
-        QTest::newRow("digits behind a blank on FormScri2") << "FormScri2"
-                                                            << " 42"
-                                                            << "Scrivi il numero in lettere" << 0;
+    void answers_data() {
+        QTest::addColumn<Risposta>("r");
+        const auto row = [](const char* name, const Risposta& r) { QTest::newRow(name) << r; };
+        // In digits only the digits count, wherever they stand.
+        row("signs, blanks and letters among the digits", {"FormScri", 42, "-4 x2", "-4 x2", true});
+        row("the word instead of digits", {"FormScri", 42, "quarantadue", "quarantadue", false});
+        // In words one spelling only, in capitals that the keys alone make.
+        row("small letters become capitals", {"FormScri2", 21, "ventuno", "VENTUNO", true});
+        row("blanks around the word", {"FormScri2", 28, "  ventotto ", "  VENTOTTO ", true});
+        row("the tens keep their vowel", {"FormScri2", 21, "ventiuno", "VENTIUNO", false});
+        row("a blank inside the word", {"FormScri2", 21, "vent uno", "VENT UNO", false});
+        row("an accented letter", {"FormScri2", 23, "ventitré", "VENTITRé", false});
+        row("pasted in small letters", {"FormScri2", 21, "ventuno", "ventuno", false, true});
+        row("blanks only", {"FormScri2", 21, "  ", "  ", false});
+        row("the digits instead of the word", {"FormScri2", 21, "21", "21", false});
     }
-    void theQuestion() {
-        QFETCH(QString, form);
-        QFETCH(QString, domanda);
-        QFETCH(QString, consegna);
-        QFETCH(int, randomize);
+    // Enter held down gives one answer. Right: the screen waits for "avanti". Wrong: the text stays
+    // to be mended.
+    void answers() {
+        QFETCH(Risposta, r);
         Harness h;
-        open(h, form, 42);
-        QCOMPARE(h.events("randomize").size(), randomize);
-        // the colour is drawn first, then the number
-        QCOMPARE(h.dump().value("backcolor").toString(), QStringLiteral("#ffc0ff"));
-        QCOMPARE(h.caption("EtichettaNumero"), domanda);
-        QCOMPARE(h.caption("Label3"), consegna);
-        QCOMPARE(h.dump().value("focus").toString(), QStringLiteral("Text1"));
-        QVERIFY(!h.visible("CorniceNumeroMassimo"));
+        open(h, r.form, r.numero);
+        QCOMPARE(h.events("randomize").size(), r.form == "FormScri" ? 1 : 0); // only FormScri randomizes
+        h.run(QStringLiteral(R"({"%1": "Text1", "text": "%2"})")
+                  .arg(r.incollata ? "settext" : "type", r.scritto));
+        h.run(R"({"key": "Text1", "code": 13, "repeat": 3})");
+        QVERIFY(h.global("Esatti") == r.giusta && h.global("Errati") == !r.giusta);
+        QCOMPARE(h.text("Text1"), r.mostrato);
+        QVERIFY(h.enabled("Text1") != r.giusta && h.enabled("BottoneAvanti") == r.giusta);
+    }
+
+    // The words screens' own menus. A new limit brings a new question at once, here the highest
+    // number under it, even while the child waits for "avanti"; the counters and the state stay.
+    void theLimitPanel() {
+        Harness h;
+        open(h, "FormScri", 16);
         const QStringList menus{h.caption("MenuAzzera"), h.caption("mnuNumeroMassimo"),
                                 h.caption("mnuStampa"), h.caption("MenuInformazioni")};
-        QCOMPARE(menus, (QStringList{"Azzera conteggio        ", "Numero Massimo          ",
-                                     "Stampa scheda        ", "Informazioni         "}));
-        // both print the words worksheet
-        h.run(R"({"menu": "mnuStampa"})");
-        QCOMPARE(h.form(), QStringLiteral("formStampa"));
-        QCOMPARE(h.global("NumeroScheda"), 1);
-    }
-
-    void answers_data() {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<int>("numero");
-        QTest::addColumn<QString>("how");
-        QTest::addColumn<QString>("entered");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<bool>("right");
-        // In digits only the digits count, wherever they stand.
-        row("digits", "FormScri", 42, "42", "42", true);
-        row("signs, blanks and letters among the digits", "FormScri", 42, "-4 x2", "-4 x2", true);
-        row("the word instead of digits", "FormScri", 42, "quarantadue", "quarantadue", false);
-        row("blanks only, FormScri", "FormScri", 42, "   ", "   ", false);
-        // In words one spelling only, in capitals that the keys alone make.
-        row("small letters become capitals", "FormScri2", 21, "ventuno", "VENTUNO", true);
-        row("blanks around the word", "FormScri2", 28, "  ventotto ", "  VENTOTTO ", true);
-        row("the tens keep their vowel", "FormScri2", 21, "ventiuno", "VENTIUNO", false);
-        row("a blank inside the word", "FormScri2", 21, "vent uno", "VENT UNO", false);
-        row("an accented letter", "FormScri2", 23, "ventitré", "VENTITRé", false);
-        row("pasted in small letters", "FormScri2", 21, "ventuno", "ventuno", false, "settext");
-        row("blanks only, FormScri2", "FormScri2", 21, "  ", "  ", false);
-        row("the digits instead of the word", "FormScri2", 21, "21", "21", false);
-    }
-    // Enter on the empty box counts nothing, and Enter held down gives one answer.
-    void answers() {
-        QFETCH(QString, form);
-        QFETCH(int, numero);
-        QFETCH(QString, how);
-        QFETCH(QString, entered);
-        QFETCH(QString, shown);
-        QFETCH(bool, right);
-        Harness h;
-        open(h, form, numero);
-        const QString question = h.caption("EtichettaNumero");
-        enter(h);
-        h.run(QStringLiteral(R"({"%1": "Text1", "text": "%2"})").arg(how, entered));
-        h.events();
-        h.rnd({0.0}); // the cheerful sound
-        h.run(R"({"key": "Text1", "code": 13, "repeat": 3})");
-        QCOMPARE(h.global("Esatti"), right ? 1 : 0);
-        QCOMPARE(h.global("Errati"), right ? 0 : 1);
-        QCOMPARE(h.sounds(), QStringList{right ? "suoni/si1.wav" : "suoni/no.wav"});
-        // Right: the screen waits for "avanti" with the question as it was. Wrong: the text stays to be
-        // mended.
-        QCOMPARE(h.caption("EtichettaNumero"), question);
-        QCOMPARE(h.text("Text1"), shown);
-        QCOMPARE(h.enabled("Text1"), !right);
-        QCOMPARE(h.enabled("BottoneAvanti"), right);
-    }
-
-    // A new limit brings a new question at once, here the highest number under it, whether the child
-    // was answering or waiting for "avanti"; the counters, the state and the last verdict stay.
-    void theLimitPanel_data() {
-        QTest::addColumn<int>("limite");
-        QTest::addColumn<bool>("waiting");
-        QTest::addColumn<QString>("domanda");
-        QTest::newRow("19 while answering") << 19 << false << "DICIANNOVE";
-        QTest::newRow("99 while waiting for avanti") << 99 << true << "NOVANTANOVE";
-    }
-    void theLimitPanel() {
-        QFETCH(int, limite);
-        QFETCH(bool, waiting);
-        QFETCH(QString, domanda);
-        Harness h;
-        open(h, QStringLiteral("FormScri"), 16);
-        if (waiting) h.rnd({0.0}); // the cheerful sound
-        h.run(QStringLiteral(R"({"type": "Text1", "text": "%1"})").arg(waiting ? "16" : "7"));
-        enter(h);
-        h.run(R"({"menu": "mnuNumeroMassimo"})");
-        QVERIFY(h.visible("CorniceNumeroMassimo"));
-        h.rnd({0.0, drawFor(limite, limite)}); // the colour, then the number
-        h.run(QStringLiteral(R"J({"click": "OpzioneNumeroMassimo(%1)"})J").arg((limite - 19) / 10));
-        QVERIFY(!h.visible("CorniceNumeroMassimo"));
-        QCOMPARE(h.global("NumeroMassimo"), limite);
-        QCOMPARE(h.caption("EtichettaNumero"), domanda);
-        QCOMPARE(h.dump().value("backcolor").toString(), QStringLiteral("#ffc0c0"));
-        QCOMPARE(h.text("Text1"), QString());
-        QCOMPARE(h.enabled("Text1"), !waiting);
-        QCOMPARE(h.enabled("BottoneAvanti"), waiting);
-        QCOMPARE(h.global(waiting ? "Esatti" : "Errati"), 1);
-        QCOMPARE(h.visible("ComandoIconaSi"), waiting);
+        QCOMPARE(menus.join('|'), "Azzera conteggio        |Numero Massimo          |Stampa scheda        |"
+                                  "Informazioni         ");
+        h.answer("Text1", "16");
+        h.run(R"({"menu": "mnuNumeroMassimo"})"); // the panel's options are reached only when it shows
+        h.rnd({0.0, 0.9999});                     // the colour, then the number
+        h.run(R"J({"click": "OpzioneNumeroMassimo(8)"})J");
+        QVERIFY(!h.visible("CorniceNumeroMassimo") && h.global("NumeroMassimo") == 99);
+        QCOMPARE(h.caption("EtichettaNumero") + '|' + h.text("Text1"), "NOVANTANOVE|");
+        QVERIFY(!h.enabled("Text1") && h.enabled("BottoneAvanti") && h.visible("ComandoIconaSi"));
+        QCOMPARE(h.global("Esatti"), 1);
     }
 };
 
