@@ -1,13 +1,14 @@
-// The number and text functions: every caption of the program is built with them, so a wrong blank
-// or a wrong rounding here is a wrong caption everywhere.
+// The number and text functions at their edges: every caption of the program is built with them, so
+// a wrong blank or a wrong rounding here is a wrong caption everywhere.
 
 #include "core/lang.h"
 #include "core/scripted.h"
 
 #include <QTest>
-#include <limits>
+#include <climits>
 
 using namespace contarello;
+using namespace Qt::StringLiterals;
 
 class LangTest : public QObject {
     Q_OBJECT
@@ -15,19 +16,11 @@ private slots:
     void val_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("value");
-        QTest::newRow("empty") << "" << 0.0;
-        QTest::newRow("blanks inside") << "1 2" << 12.0;
-        QTest::newRow("leading blanks and tabs") << " \t 42" << 42.0;
-        QTest::newRow("exponent") << "2e1" << 20.0;
-        QTest::newRow("exponent with D") << "3D2" << 300.0;
-        QTest::newRow("unfinished exponent") << "7e" << 7.0;
-        QTest::newRow("second point stops") << "1.2.3" << 1.2;
-        QTest::newRow("minus") << "-3" << -3.0;
-        QTest::newRow("plus") << "+8" << 8.0;
-        QTest::newRow("hexadecimal") << "&H1F" << 31.0;
-        QTest::newRow("octal") << "&O17" << 15.0;
-        QTest::newRow("sign alone") << "-" << 0.0;
-        QTest::newRow("letter first") << "a12" << 0.0;
+        const std::pair<const char*, double> rows[] = {
+            {"", 0},    {"1 2", 12}, {" \t 42", 42}, {"2e1", 20},  {"3D2", 300}, {"7e", 7}, {"1.2.3", 1.2},
+            {"-3", -3}, {"+8", 8},   {"&H1F", 31},   {"&O17", 15}, {"-", 0},     {"a12", 0}};
+        for (const auto& [text, value] : rows)
+            QTest::newRow(qPrintable(u'"' + QString(text) + u'"')) << QString(text) << value;
         QTest::newRow("a thousand digits are inf") << QString(1000, u'9') << qInf();
     }
     void val() {
@@ -36,69 +29,31 @@ private slots:
         QCOMPARE(Val(text), value);
     }
 
-    // Below zero: the screens' own tests see these functions only on positive numbers.
-    void negatives() {
-        QCOMPARE(Str(-5), QStringLiteral("-5")); // the sign stands where the blank would
-        QCOMPARE(Int(-0.5), -1LL);
-        QCOMPARE(Int(-3.0), -3LL);
-        QCOMPARE(CInt(-2.5), int16_t(-2)); // a half goes to the even neighbour
+    // From 2^63 on Int holds the number at the nearer end of a long long, NaN is 0; Format rounds a
+    // half away from zero and holds the number as Int does.
+    void theEndsOfTheRange() {
+        constexpr long long hi = LLONG_MAX, lo = LLONG_MIN;
+        QCOMPARE((QList<long long>{Int(qQNaN()), Int(qInf()), Int(-qInf()), Int(9223372036854775808.0),
+                                   Int(-9223372036854775808.0), Int(9223372036854774784.0), Int(-0.5)}),
+                 (QList<long long>{0, hi, lo, hi, lo, 9223372036854774784LL, -1}));
+        const QString p = QStringLiteral("###,###,##0");
+        QCOMPARE((QStringList{Format(qQNaN(), p), Format(-2.5, p), Format(qInf(), p), Format(-qInf(), p)}),
+                 (QStringList{"0", "-3", "9.223.372.036.854.775.807", "-9.223.372.036.854.775.808"}));
+    }
+
+    void smallFunctions() {
+        // CInt: a half goes to the even neighbour, the 16-bit ends hold.
+        QCOMPARE((QList<int>{CInt(-2.5), CInt(1e9), CInt(-1e9)}), (QList<int>{-2, 32767, -32768}));
         ScriptedRandom r;
         r.queue(0.3);
-        QCOMPARE(Draw(r, -10, 0), -3); // a negative factor rounds down
-    }
-
-    void cIntIsHeldAtItsEnds() {
-        QCOMPARE(CInt(1e9), int16_t(32767));
-        QCOMPARE(CInt(-1e9), int16_t(-32768));
-    }
-
-    void format() {
-        QCOMPARE(Format(0, QStringLiteral("#,##0")), QStringLiteral("0"));
-        QCOMPARE(Format(1500000, QStringLiteral("#,##0")), QStringLiteral("1.500.000"));
-    }
-
-    // Int and Format agree on every double: beyond a long long both stay at its nearer end.
-    void beyondTheRange_data() {
-        QTest::addColumn<double>("x");
-        QTest::addColumn<long long>("whole");
-        QTest::addColumn<QString>("formatted");
-        const long long hi = std::numeric_limits<long long>::max();
-        const long long lo = std::numeric_limits<long long>::min();
-        QTest::newRow("NaN") << qQNaN() << 0LL << "0";
-        QTest::newRow("infinity") << qInf() << hi << "9.223.372.036.854.775.807";
-        QTest::newRow("minus infinity") << -qInf() << lo << "-9.223.372.036.854.775.808";
-        QTest::newRow("1e53") << Val(QStringLiteral("1e53")) << hi << "9.223.372.036.854.775.807";
-        QTest::newRow("2^63") << 9223372036854775808.0 << hi << "9.223.372.036.854.775.807";
-        QTest::newRow("-2^63 fits") << -9223372036854775808.0 << lo << "-9.223.372.036.854.775.808";
-        QTest::newRow("below -2^63") << -1e19 << lo << "-9.223.372.036.854.775.808";
-        QTest::newRow("largest double under 2^63")
-            << 9223372036854774784.0 << 9223372036854774784LL << "9.223.372.036.854.774.784";
-        QTest::newRow("a half rounds away in Format") << -2.5 << -3LL << "-3";
-    }
-    void beyondTheRange() {
-        QFETCH(double, x);
-        QFETCH(long long, whole);
-        QFETCH(QString, formatted);
-        QCOMPARE(Int(x), whole);
-        QCOMPARE(Format(x, QStringLiteral("###,###,##0")), formatted);
-    }
-
-    void textFunctions() {
-        QCOMPARE(Trim(QStringLiteral("  ventuno \t ")), QStringLiteral("ventuno \t"));
-        QCOMPARE(Mid(QStringLiteral("abcdef"), 2, 3), QStringLiteral("bcd"));
-        QCOMPARE(Mid(QStringLiteral("abc"), 5), QString());
-        QCOMPARE(Left(QStringLiteral("abc"), -1), QString());
-        QCOMPARE(InStr(QStringLiteral("a b"), QStringLiteral(" ")), 2);
-        QCOMPARE(InStr(QStringLiteral("ab"), QStringLiteral(" ")), 0);
-    }
-
-    void ansiCodes() {
-        QCOMPARE(Asc(QStringLiteral("à")), 224);
-        QCOMPARE(Asc(QStringLiteral("€")), 128);
-        QCOMPARE(Asc(QString()), 0);
-        QCOMPARE(Asc(QStringLiteral("\u4e00")), 63);
-        QCOMPARE(Chr(224), QStringLiteral("à"));
-        QCOMPARE(Chr(128), QStringLiteral("€"));
+        QCOMPARE(Draw(r, -10, 0), -3);                       // a negative factor rounds down
+        QCOMPARE(Trim(u"  ventuno \t "_s), u"ventuno \t"_s); // blanks only
+        QCOMPARE(Mid(u"abcdef"_s, 2, 3) + '|' + Mid(u"abc"_s, 5) + '|' + Left(u"abc"_s, -1), u"bcd||"_s);
+        QCOMPARE((QList<int>{InStr(u"a b"_s, u" "_s), InStr(u"ab"_s, u" "_s)}), (QList<int>{2, 0}));
+        // Windows-1252 both ways, 0 for nothing, 63 for a character it lacks.
+        QCOMPARE((QList<int>{Asc(u"à"_s), Asc(u"€"_s), Asc(QString()), Asc(u"\u4e00"_s)}),
+                 (QList<int>{224, 128, 0, 63}));
+        QCOMPARE(Chr(224) + Chr(128), u"à€"_s);
     }
 };
 

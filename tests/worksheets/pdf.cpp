@@ -1,15 +1,13 @@
-// "Salva PDF" on the worksheet screen: the file holds the sheet and then its correction as text,
-// broken into the very lines the printer gets; Cancel writes nothing; a file that can't be written
-// is told in a box and costs nothing. The pages are read back with poppler's tools.
+// The printouts of the worksheets and "Salva PDF", read back with poppler's tools: the lines of the
+// worksheet screen, and the pictures of the drawn worksheets with their texts still text.
 
-#include "shell/printout.h"
 #include "support/harness.h"
+#include "worksheets/generators/generators.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QLabel>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -27,41 +25,35 @@ void act(Harness& h, const QJsonObject& command) {
 QString tool(const QString& program, const QStringList& args) {
     QProcess p;
     p.start(program, args);
-    if (!p.waitForFinished(30000) || p.exitCode() != 0)
-        qWarning("%s failed: %s", qPrintable(program), p.readAllStandardError().constData());
-    return QString::fromUtf8(p.readAllStandardOutput());
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput() + p.readAllStandardError());
 }
 
-// The lines of a text as they read on paper: a proportional font keeps no run of blanks, so runs
-// collapse to one; empty lines leave no trace in the PDF's text.
+// The lines of a text as they read on paper, in a proportional font: no runs of blanks, no empty lines.
 QStringList words(const QString& text) {
     QStringList lines;
-    for (const QString& line : text.split(QRegularExpression(QStringLiteral("[\r\n]+")))) {
-        const QString s = line.simplified();
-        if (!s.isEmpty()) lines << s;
-    }
+    for (const QString& line : text.split(QRegularExpression(QStringLiteral("[\r\n]+"))))
+        if (!line.simplified().isEmpty()) lines << line.simplified();
     return lines;
 }
 
-QString page(const QString& pdf, int n) {
+QStringList page(const QString& pdf, int n) {
     const QString p = QString::number(n);
-    return tool(QStringLiteral("pdftotext"), {"-raw", "-nopgbrk", "-f", p, "-l", p, pdf, "-"});
+    return words(tool(QStringLiteral("pdftotext"), {"-raw", "-nopgbrk", "-f", p, "-l", p, pdf, "-"}));
 }
 
-QString info(const QString& pdf, const QString& field) {
-    const QRegularExpression re(u'^' + field + QStringLiteral(":\\s*(.*)$"),
-                                QRegularExpression::MultilineOption);
-    return re.match(tool(QStringLiteral("pdfinfo"), {pdf})).captured(1).trimmed();
+// The title and the number of pages.
+QString info(const QString& pdf) {
+    static const QRegularExpression re(QStringLiteral("^Title: *(.*)$[\\s\\S]*^Pages: *(\\d+)$"),
+                                       QRegularExpression::MultilineOption);
+    const QRegularExpressionMatch m = re.match(tool(QStringLiteral("pdfinfo"), {pdf}));
+    return m.captured(1).trimmed() + '|' + m.captured(2);
 }
 
-// The sheet of "più 1" on screen, in six columns so that its rows are broken for print.
-void openWideSheet(Harness& h, int size) {
-    h.rnd({11.5 / 99, 0.0});
-    h.run(R"({"show": "Form1"})");
-    h.run(R"({"menu": "mnuStampa"})");
-    act(h, {{"click", "OptionColonne(5)"}});
-    act(h, {{"click", QStringLiteral("OptionCarattere(%1)").arg(size)}});
-    h.events();
+// One document in MS Sans Serif, named for the print queue after what it is.
+QJsonValue printed(int size, const QString& text, const QString& name) {
+    return QJsonObject{
+        {"event", "print"}, {"font", "MS Sans Serif"}, {"size", size}, {"text", text}, {"name", name}};
 }
 
 } // namespace
@@ -69,123 +61,117 @@ void openWideSheet(Harness& h, int size) {
 class PdfTest : public QObject {
     Q_OBJECT
 private slots:
-    // Page 1 the sheet, page 2 the correction, line for line as the two print buttons send them,
-    // in real text. In a large font a line wider than the paper runs off its edge, as on the
-    // printer: it is cut, never broken again.
-    void theSheetThenItsCorrection_data() {
+    // The sheet of "più 1" in six columns (rows wider than a printout), edited by hand, in each size:
+    // "Stampa scheda" prints the edit broken at 100 characters, "Stampa correzione" the correction at
+    // 90, "Salva PDF" the two on pages 1 and 2, where a line too wide runs off the paper, as printed.
+    // Cancel writes nothing; a path that can't take the file gets a box naming it, nothing changes.
+    void printAndSave_data() {
+        QTest::addColumn<int>("option");
         QTest::addColumn<int>("size");
-        QTest::addColumn<bool>("fits");
-        QTest::newRow("piccolo") << 0 << true;
-        QTest::newRow("grande") << 2 << false;
-    }
-    void theSheetThenItsCorrection() {
-        QFETCH(int, size);
-        QFETCH(bool, fits);
-        QTemporaryDir dir;
-        const QString pdf = dir.filePath(QStringLiteral("scheda.pdf"));
-        Harness h;
-        openWideSheet(h, size);
-        h.run(R"({"click": "btnCD"})");
-        h.run(R"({"click": "Command1"})");
-        const QJsonArray printed = h.events("print");
-        QCOMPARE(printed.size(), 2);
-        act(h, {{"savefile", QJsonArray{pdf}}});
-        h.run(R"({"click": "btnPDF"})");
-
-        const QJsonArray asked = h.events(); // the dialog, and no message box
-        QCOMPARE(asked.size(), 1);
-        QCOMPARE(asked[0]["event"].toString() + '|' + asked[0]["title"].toString() + '|' +
-                     asked[0]["default"].toString(),
-                 "savefile|Salva PDF|Contarello - scheda 9 - " + QDate::currentDate().toString(Qt::ISODate) +
-                     ".pdf");
-        QCOMPARE(info(pdf, "Pages"), QStringLiteral("2"));
-        QCOMPARE(info(pdf, "Title"), QStringLiteral("Contarello - scheda 9"));
-        for (int p = 0; p < 2; ++p) {
-            const QStringList expected = words(printed[p].toObject().value("text").toString());
-            const QStringList actual = words(page(pdf, p + 1));
-            QVERIFY(expected.size() > 10); // five rows of two printed lines each, and the heading
-            if (fits) {
-                QCOMPARE(actual, expected);
-            } else {
-                QCOMPARE(actual.size(), expected.size());
-                for (int i = 0; i < actual.size(); ++i)
-                    QVERIFY2(expected[i].startsWith(actual[i]), qPrintable(actual[i] + " / " + expected[i]));
-            }
-        }
-        // Text in an embedded font, and no picture anywhere.
-        QVERIFY(tool(QStringLiteral("pdffonts"), {pdf}).split(u'\n', Qt::SkipEmptyParts).size() > 2);
-        QCOMPARE(tool(QStringLiteral("pdfimages"), {"-list", pdf}).split(u'\n', Qt::SkipEmptyParts).size(),
-                 2);
-    }
-
-    // Cancel writes nothing; a path that can't take the file gets a box naming it, and the sheet,
-    // the correction and whatever stood at that path are as before.
-    void cancelAndFailures_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("why");
-        QTest::newRow("Cancel") << QString() << QString();
-        QTest::newRow("no such folder")
-            << QStringLiteral("manca/scheda.pdf") << QStringLiteral("La cartella non esiste");
-        QTest::newRow("a folder by that name")
-            << QStringLiteral("cartella") << QStringLiteral("c'è già una cartella");
+        QTest::newRow("piccolo") << 0 << 10 << "scheda.pdf" << QString();
+        QTest::newRow("grande, cut at the edge") << 2 << 14 << "scheda.pdf" << QString();
+        QTest::newRow("medio, Cancel") << 1 << 12 << QString() << QString();
+        QTest::newRow("no such folder") << 1 << 12 << "manca/scheda.pdf" << QString("La cartella non esiste");
+        QTest::newRow("a folder by that name") << 0 << 10 << "cartella" << QString("c'è già una cartella");
     }
-    void cancelAndFailures() {
+    void printAndSave() {
+        QFETCH(int, option);
+        QFETCH(int, size);
         QFETCH(QString, path);
         QFETCH(QString, why);
         QTemporaryDir dir;
         QDir(dir.path()).mkdir(QStringLiteral("cartella"));
-        const QString full = path.isEmpty() ? QString() : dir.filePath(path);
+        const QString pdf = path.isEmpty() ? QString() : dir.filePath(path);
         Harness h;
-        openWideSheet(h, 1);
-        const QString prima = h.text("txtCD") + h.text("TextCor");
-        act(h, {{"savefile", QJsonArray{full}}});
+        h.rnd({11.5 / 99, 0.0});
+        h.script(R"J({"show": "Form1"}
+                     {"menu": "mnuStampa"}
+                     {"click": "OptionColonne(5)"})J");
+        const QString correzione = h.text("TextCor");
+        const QString edited = h.text("txtCD") + QStringLiteral("    Nome: ____________\r\n");
+        act(h, {{"settext", "txtCD"}, {"text", edited}});
+        // A size never draws new numbers, and the edit survives it.
+        for (int o : {(option + 1) % 3, option})
+            h.run(QStringLiteral(R"J({"click": "OptionCarattere(%1)"})J").arg(o));
+        QCOMPARE(h.control("txtCD")["fontsize"].toDouble(), double(size));
+        h.events();
+        h.script(R"J({"click": "btnCD"}
+                     {"click": "Command1"})J");
+        const QJsonArray stampe = h.events("print");
+        QCOMPARE(stampe, (QJsonArray{printed(size, AndaACapo(edited, 100), "Contarello - scheda 9"),
+                                     printed(size, AndaACapo(correzione, 90), "Contarello - correzione 9")}));
+        act(h, {{"savefile", QJsonArray{pdf}}});
         h.run(R"({"click": "btnPDF"})");
-        const QJsonArray boxes = h.events("msgbox");
-        QCOMPARE(boxes.size(), why.isEmpty() ? 0 : 1);
-        for (const QJsonValue& b : boxes) {
-            const QString text = b["text"].toString();
-            QCOMPARE(b["style"].toInt(), 16);
-            QCOMPARE(b["title"].toString(), "Contarello");
-            QVERIFY2(text.contains(full) && text.contains(why), qPrintable(text));
-        }
-        QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-                 QStringList{"cartella"});
+
+        const QJsonArray asked = h.events(); // the dialog, then a box only for a file not written
+        QCOMPARE(asked.size(), why.isEmpty() ? 1 : 2);
+        QCOMPARE(asked[0]["title"].toString() + '|' + asked[0]["default"].toString(),
+                 "Salva PDF|Contarello - scheda 9 - " + QDate::currentDate().toString(Qt::ISODate) + ".pdf");
+        const QJsonValue box = asked.last();
+        if (!why.isEmpty())
+            QVERIFY2(box["event"] == "msgbox" && box["style"] == 16 && box["title"] == "Contarello" &&
+                         box["text"].toString().contains(pdf) && box["text"].toString().contains(why),
+                     qPrintable(box["text"].toString()));
+        QCOMPARE(h.form() + h.text("txtCD") + h.text("TextCor"), "formStampa" + edited + correzione);
         QVERIFY(QFileInfo(dir.filePath("cartella")).isDir()); // not replaced by a file
-        QCOMPARE(h.text("txtCD") + h.text("TextCor"), prima);
-        QCOMPARE(h.form(), QStringLiteral("formStampa"));
+        const bool written = !pdf.isEmpty() && why.isEmpty();
+        QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 (written ? QStringList{"cartella", "scheda.pdf"} : QStringList{"cartella"}));
+        if (!written) return;
+        QCOMPARE(info(pdf), QStringLiteral("Contarello - scheda 9|2"));
+        for (int p = 0; p < 2; ++p) {
+            const QStringList expected = words(stampe[p]["text"].toString()), actual = page(pdf, p + 1);
+            QVERIFY(expected.size() > 10 && actual.size() == expected.size()); // five rows of two lines
+            for (int i = 0; i < actual.size(); ++i)
+                QVERIFY2(option < 2 ? actual[i] == expected[i] : expected[i].startsWith(actual[i]),
+                         qPrintable(actual[i]));
+        }
     }
 
-    // The drawn worksheets save the picture of their page, its texts still text, under the name their
-    // print job takes too.
-    void drawnSheetsKeepTheirTextsAsText_data() {
+    // A drawn worksheet is printed and saved as it shows, a hand edit included, under one name; shown
+    // again it is the same page, or a new one if drawn on each showing; "Esci" unloads it.
+    void drawnSheets_data() {
         QTest::addColumn<QString>("exercise");
         QTest::addColumn<QString>("sheet");
-        for (const auto& [exercise, sheet] : {std::pair{"Form999x", "formStampa1"},
-                                              {"Form999y", "formStampa4"},
-                                              {"Form99a", "formSt99a"},
-                                              {"Form99b", "formSt99b"},
-                                              {"Form100Trova", "formStampa2"},
-                                              {"Form100Ricon", "formStampa3"}})
-            QTest::newRow(sheet) << QString(exercise) << QString(sheet);
+        QTest::addColumn<bool>("kept");
+        for (const char* row :
+             {"Form999x formStampa1 kept", "Form999y formStampa4 new", "Form99a formSt99a kept",
+              "Form99b formSt99b kept", "Form100Trova formStampa2 new", "Form100Ricon formStampa3 new"}) {
+            const QStringList p = QString(row).split(u' ');
+            QTest::newRow(qPrintable(p[1])) << p[0] << p[1] << (p[2] == "kept");
+        }
     }
-    void drawnSheetsKeepTheirTextsAsText() {
+    void drawnSheets() {
         QFETCH(QString, exercise);
         QFETCH(QString, sheet);
+        QFETCH(bool, kept);
         QTemporaryDir dir;
         const QString pdf = dir.filePath(QStringLiteral("disegno.pdf"));
+        const QString name = QStringLiteral("Contarello - scheda ") + sheet;
         Harness h;
         h.run(QStringLiteral(R"({"show": "%1"})").arg(exercise));
         h.run(R"({"menu": "mnuStampa"})");
-        QCOMPARE(h.form(), sheet);
-        const QString heading = h.text("Text2").simplified();
+        act(h, {{"settext", "Text1(0)"}, {"text", "scritto a mano"}});
         act(h, {{"savefile", QJsonArray{pdf}}});
-        h.run(R"({"menu": "mnuPdf"})");
-        h.run(R"({"menu": "mnustampa"})");
-        const QString name = QStringLiteral("Contarello - scheda ") + sheet;
-        QCOMPARE(info(pdf, "Title"), name);
-        QCOMPARE(info(pdf, "Pages"), QStringLiteral("1"));
-        QVERIFY2(words(page(pdf, 1)).join(u' ').contains(heading), qPrintable(heading));
-        QCOMPARE(h.events("printform").at(0).toObject().value("name").toString(), name);
+        h.script(R"({"menu": "mnuPdf"}
+                    {"menu": "mnustampa"})");
+        QCOMPARE(info(pdf), name + "|1");
+        const QString text = page(pdf, 1).join(u' ');
+        QVERIFY2(text.contains(h.text("Text2").simplified()) && text.contains("scritto a mano"),
+                 qPrintable(text));
+        const QJsonValue printed = h.events("printform").at(0);
+        QCOMPARE(printed["name"].toString() + '|' + printed["form"].toString(), name + '|' + sheet);
+        const QJsonValue shown = h.dump()["controls"];
+        QCOMPARE(shown["Text1(0)"]["text"].toString(), QStringLiteral("scritto a mano"));
+        h.run(QStringLiteral(R"({"activate": "%1"})").arg(exercise));
+        h.run(R"({"menu": "mnuStampa"})");
+        QCOMPARE(h.form(), sheet);
+        QCOMPARE(h.dump()["controls"] == shown, kept);
+        h.run(R"({"menu": "mnuesci"})");
+        QCOMPARE(h.form(), exercise);
+        QVERIFY(!h.dump()["loaded"].toArray().contains(sheet));
     }
 };
 

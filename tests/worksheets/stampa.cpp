@@ -1,10 +1,9 @@
-// The worksheet screen end to end, opened from "più 1": the sheet and its correction, the options,
-// the print size, the printouts, and the way back to the exercise.
+// The worksheet screen opened from "più 1": the sheet and its correction for the rows and columns
+// chosen, and the way back to the exercise. Its printouts are in pdf.cpp.
 
 #include "support/harness.h"
 #include "worksheets/generators/generators.h"
 
-#include <QJsonDocument>
 #include <QTest>
 #include <cmath>
 
@@ -13,25 +12,19 @@ using namespace contarello::test;
 
 namespace {
 
-void act(Harness& h, const QJsonObject& command) {
-    h.run(QString::fromUtf8(QJsonDocument(command).toJson(QJsonDocument::Compact)));
-}
 void click(Harness& h, const QString& name) {
-    act(h, {{"click", name}});
+    h.run(QStringLiteral(R"J({"click": "%1"})J").arg(name));
 }
 
 // Queues the draws of a sheet of so many cells, spread over the range so that each cell differs.
-QList<double> queue(Harness& h, int cells, double start = 0.11) {
+QList<double> queue(Harness& h, int cells, double start) {
     QList<double> v;
-    QJsonArray a;
     for (int i = 0; i < cells; ++i)
-        a.append(v.emplaceBack(std::fmod(start + 0.137 * i, 1.0)));
-    act(h, {{"rnd", a}});
+        h.rnd({v.emplaceBack(std::fmod(start + 0.137 * i, 1.0))});
     return v;
 }
 
-// The screen holds the sheet and its correction for these draws, made apart from it: by default
-// the sheet of "più 1".
+// The screen holds the sheet and its correction made apart from it for these draws ("più 1": 9).
 void compareSheet(Harness& h, const SchedaInput& in, const QList<double>& draws, int numero = 9) {
     ScriptedRandom rnd;
     for (double v : draws)
@@ -43,59 +36,15 @@ void compareSheet(Harness& h, const SchedaInput& in, const QList<double>& draws,
     QCOMPARE(h.text("TextCor"), s.TextCor);
 }
 
-// Form1 asking " 11 + 1 = ", then its worksheet; returns the draws the sheet was made from.
-QList<double> openSheet(Harness& h) {
-    h.dump();
-    h.rnd({11.5 / 99, 0.0});
-    h.run(R"({"show": "Form1"})");
-    const QList<double> d = queue(h, 10);
-    h.run(R"({"menu": "mnuStampa"})");
-    h.events();
-    return d;
-}
-
-// What a print button sends since the last look: one document in MS Sans Serif, named for the
-// print queue after what it is.
-QJsonArray printed(int size, const QString& text,
-                   const QString& name = QStringLiteral("Contarello - scheda 9")) {
-    return {QJsonObject{
-        {"event", "print"}, {"font", "MS Sans Serif"}, {"size", size}, {"text", text}, {"name", name}}};
-}
-
-const QJsonObject kAttivazione{{"NumeroRighe", 5}, {"NumeroColonne", 2}, {"GrandezzaCarattere", 12}};
-
 } // namespace
 
 class StampaTest : public QObject {
     Q_OBJECT
 private slots:
-    // Each time the screen comes to the front it makes a new sheet in 5 rows, 2 columns and size 12,
-    // though its option buttons and its box still show the last choice.
-    void eachActivationStartsOver() {
-        Harness h;
-        const QList<double> first = openSheet(h);
-        const QJsonObject d = h.dump();
-        QCOMPARE(d.value("loaded").toArray(), (QJsonArray{"Form1", "formStampa"}));
-        QCOMPARE(d.value("backcolor").toString(), QStringLiteral("#ffff00"));
-        QCOMPARE(d.value("fields").toObject(), kAttivazione);
-        compareSheet(h, {}, first);
-        QVERIFY(!h.visible("TextCor") && !h.visible("List1"));
-        QVERIFY(!h.control("OptionRighe(1)").value("value").toBool()); // 5 rows, but not chosen
-        QVERIFY(h.control("OptionCarattere(1)").value("value").toBool());
-
-        click(h, "OptionRighe(0)");
-        click(h, "OptionCarattere(2)");
-        h.run(R"({"activate": "Form1"})");
-        const QList<double> again = queue(h, 10, 0.5);
-        h.run(R"({"menu": "mnuStampa"})");
-        QCOMPARE(h.dump().value("fields").toObject(), kAttivazione);
-        compareSheet(h, {}, again);
-        QVERIFY(h.control("OptionRighe(0)").value("value").toBool() &&
-                h.control("OptionCarattere(2)").value("value").toBool());
-        QCOMPARE(h.control("txtCD").value("fontsize").toDouble(), 14.0);
-    }
-
-    void rowsAndColumnsMakeANewSheet_data() {
+    // The screen opens on 5 rows of 2, the correction hidden, no option chosen. An option makes a new
+    // sheet, "Nuova scheda" one as the options stand; shown again, the screen starts over at 5 rows
+    // of 2 and size 12, though its options and its box still show the last choice.
+    void rowsAndColumns_data() {
         QTest::addColumn<QStringList>("clicks");
         QTest::addColumn<int>("righe");
         QTest::addColumn<int>("colonne");
@@ -105,102 +54,71 @@ private slots:
         QTest::newRow("15 rows of 6, kept by Nuova scheda")
             << QStringList{"OptionRighe(3)", "OptionColonne(5)", "Command2"} << 15 << 6;
         QTest::newRow("Nuova scheda with no option chosen") << QStringList{"Command2"} << 5 << 2;
+        QTest::newRow("shown again") << QStringList{"OptionRighe(0)", "OptionCarattere(2)", "Form1"} << 5
+                                     << 2;
     }
-    void rowsAndColumnsMakeANewSheet() {
+    void rowsAndColumns() {
         QFETCH(QStringList, clicks);
         QFETCH(int, righe);
         QFETCH(int, colonne);
         Harness h;
-        openSheet(h);
+        h.dump();
+        h.rnd({11.5 / 99, 0.0}); // " 11 + 1 = "
+        h.run(R"({"show": "Form1"})");
+        const QList<double> first = queue(h, 10, 0.11);
+        h.run(R"({"menu": "mnuStampa"})");
+        QCOMPARE(h.dump()["loaded"].toArray(), (QJsonArray{"Form1", "formStampa"}));
+        compareSheet(h, {}, first);
+        QVERIFY(!h.visible("TextCor") && !h.visible("List1") &&
+                !h.control("OptionRighe(1)")["value"].toBool());
         // Only the last click's draws are scripted: the sheet must come from them alone.
         for (int i = 0; i < clicks.size() - 1; ++i)
             click(h, clicks[i]);
+        const bool again = clicks.last() == "Form1";
+        if (again) h.run(R"({"activate": "Form1"})"); // a new question first
         const QList<double> d = queue(h, righe * colonne, 0.03);
-        click(h, clicks.last());
+        again ? void(h.run(R"({"menu": "mnuStampa"})")) : click(h, clicks.last());
         compareSheet(h, {righe, colonne}, d);
-    }
-
-    // A size never draws new numbers, and a hand-made edit survives it; "Stampa scheda" prints the
-    // edit in the chosen size, "Stampa correzione" the correction as it was made.
-    void theSizeAndTheHandEdits_data() {
-        QTest::addColumn<int>("option");
-        QTest::addColumn<int>("size");
-        QTest::newRow("piccolo") << 0 << 10;
-        QTest::newRow("medio") << 1 << 12;
-        QTest::newRow("grande") << 2 << 14;
-    }
-    void theSizeAndTheHandEdits() {
-        QFETCH(int, option);
-        QFETCH(int, size);
-        Harness h;
-        openSheet(h);
-        // Six columns make rows wider than either printout: each breaks at its own width.
-        click(h, "OptionColonne(5)");
-        const QString correzione = h.text("TextCor");
-        const QString edited = h.text("txtCD") + QStringLiteral("    Nome: ____________\r\n");
-        act(h, {{"settext", "txtCD"}, {"text", edited}});
-        click(h, QStringLiteral("OptionCarattere(%1)").arg((option + 1) % 3));
-        click(h, QStringLiteral("OptionCarattere(%1)").arg(option));
-        QCOMPARE(h.text("txtCD"), edited);
-        QCOMPARE(h.control("txtCD").value("fontsize").toDouble(), double(size));
-        click(h, "btnCD");
-        QCOMPARE(h.events("print"), printed(size, AndaACapo(edited, 100)));
-        click(h, "Command1");
-        QCOMPARE(h.events("print"), printed(size, AndaACapo(correzione, 90), "Contarello - correzione 9"));
-        QCOMPARE(h.text("txtCD"), edited); // printing changes nothing
-    }
-
-    // An unknown worksheet number empties both boxes, and an empty sheet still prints one line end.
-    void anUnknownWorksheetIsEmptyAndStillPrints() {
-        Harness h;
-        openSheet(h);
-        h.engine.program().g.NumeroScheda = 25;
-        click(h, "Command2");
-        QCOMPARE(h.text("txtCD") + h.text("TextCor"), QString());
-        click(h, "btnCD");
-        QCOMPARE(h.events("print"), printed(12, QStringLiteral("\r\n"), "Contarello - scheda 25"));
+        QCOMPARE(h.dump().value("fields")["GrandezzaCarattere"].toInt(), 12);
+        for (const QString& option : clicks.filter("Option"))
+            QVERIFY(h.control(option)["value"].toBool());
+        if (again) QCOMPARE(h.control("txtCD")["fontsize"].toDouble(), 14.0);
     }
 
     // FormOrd left while its worksheet stays: "Nuova scheda" builds the sheet of a FormOrd just
     // loaded, rows of 8 from the smallest up, not a blank page.
     void theOrderingSheetOutlivesItsScreen() {
         Harness h;
-        h.script(R"J({"click": "BottoneAvvio"}
-                     {"click": "Command3"}
-                     {"click": "Command9"}
+        h.script(R"J({"show": "FormOrd"}
                      {"menu": "MenuGiu"}
                      {"menu": "mnuStampa"}
                      {"activate": "FormOrd"}
                      {"msgbox": [6]}
                      {"menu": "mnuEsci"}
                      {"activate": "formStampa"})J");
-        QCOMPARE(h.dump().value("loaded").toArray(), (QJsonArray{"formStampa", "FormMenu"}));
-        const QList<double> draws = queue(h, 48);
+        QCOMPARE(h.dump()["loaded"].toArray(), (QJsonArray{"formStampa", "FormMenu"}));
+        const QList<double> draws = queue(h, 48, 0.11);
         click(h, "Command2");
         compareSheet(h, {5, 2, "8", "Ordina i numeri dal minore al maggiore "}, draws, 4);
     }
 
-    void esciGoesBackToTheExercise_data() {
-        QTest::addColumn<bool>("waiting");
-        QTest::newRow("while answering") << false;
-        QTest::newRow("while waiting for avanti") << true;
-    }
+    // "Esci" brings back the exercise with a new question, its counters, and "avanti" still waiting.
     void esciGoesBackToTheExercise() {
-        QFETCH(bool, waiting);
         Harness h;
         h.dump();
         h.rnd({11.5 / 99, 0.0});
         h.run(R"({"show": "Form1"})");
         h.answer("Text1", "12");
-        if (!waiting) click(h, "BottoneAvanti");
-        h.run(R"({"menu": "mnuStampa"})");
-        h.rnd({29.5 / 99, 0.0}); // " 29 + 1 = "
-        click(h, "BottoneEsci");
-        QCOMPARE(h.dump().value("loaded").toArray(), QJsonArray{"Form1"});
-        QCOMPARE(h.caption("EtichettaNumero"), QStringLiteral(" 29 + 1 = "));
-        QCOMPARE(h.global("Esatti"), 1);
-        QCOMPARE(h.enabled("Text1"), !waiting);
-        QCOMPARE(h.enabled("BottoneAvanti"), waiting);
+        for (const bool waiting : {true, false}) {
+            h.run(R"({"menu": "mnuStampa"})");
+            h.rnd({29.5 / 99, 0.0}); // " 29 + 1 = "
+            click(h, "BottoneEsci");
+            QCOMPARE(h.dump()["loaded"].toArray(), QJsonArray{"Form1"});
+            QCOMPARE(h.caption("EtichettaNumero") + QString::number(h.global("Esatti")), " 29 + 1 = 1");
+            QCOMPARE(h.enabled("Text1"), !waiting);
+            QCOMPARE(h.enabled("BottoneAvanti"), waiting);
+            if (waiting) click(h, "BottoneAvanti");
+        }
     }
 };
 
