@@ -1,4 +1,5 @@
 #include "app/paths.h"
+#include "shell/qtservices.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,9 +29,9 @@ QString Choose(const QDir& bin, const QString& installed, const QString& marker)
 
 ProgramFiles FindProgramFiles(const QString& programDir) {
     const QDir bin(programDir);
-    return {
-        Choose(bin, QStringLiteral(CONTARELLO_DATA_FROM_BIN), QStringLiteral("suoni")),
-        Choose(bin, QStringLiteral(CONTARELLO_MODULES_FROM_BIN), QStringLiteral("libcontarello_sound.so"))};
+    return {Choose(bin, QStringLiteral(CONTARELLO_DATA_FROM_BIN), QStringLiteral("suoni")),
+            Choose(bin, QStringLiteral(CONTARELLO_MODULES_FROM_BIN),
+                   QLatin1String(kSoundModule.library) + QStringLiteral(".so"))};
 }
 
 int ReportProgramFiles(const ProgramFiles& files) {
@@ -41,12 +42,9 @@ int ReportProgramFiles(const ProgramFiles& files) {
         missing += there ? 0 : 1;
         std::printf("%s %s\n", there ? "ok     " : "MISSING", qPrintable(path));
     }
-    const std::pair<const char*, const char*> modules[] = {
-        {"libcontarello_sound", "contarello_make_sound"},
-        {"libcontarello_print", "contarello_default_printer"}};
-    for (const auto& [name, entry] : modules) {
-        QLibrary module(files.modules + QLatin1Char('/') + QLatin1String(name));
-        const bool loads = module.load() && module.resolve(entry);
+    for (const ProgramModule& m : {kSoundModule, kPrintModule}) {
+        QLibrary module(files.modules + QLatin1Char('/') + QLatin1String(m.library));
+        const bool loads = module.load() && module.resolve(m.entry);
         missing += loads ? 0 : 1;
         std::printf("%s %s\n", loads ? "ok     " : "MISSING",
                     qPrintable(loads ? module.fileName() : module.errorString()));

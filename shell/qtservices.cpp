@@ -43,9 +43,9 @@ void QtRandom::Randomize() {
     gen_.seed(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
-QFunctionPointer ResolveModule(const QString& moduleDir, const char* module, const char* entry) {
-    QLibrary lib(moduleDir + QLatin1Char('/') + QLatin1String(module));
-    return lib.resolve(entry); // the library stays loaded once resolved
+QFunctionPointer ResolveModule(const QString& moduleDir, const ProgramModule& module) {
+    QLibrary lib(moduleDir + QLatin1Char('/') + QLatin1String(module.library));
+    return lib.resolve(module.entry); // the library stays loaded once resolved
 }
 
 LazySound::~LazySound() = default;
@@ -54,9 +54,7 @@ Sound* LazySound::module() {
     if (!tried_) {
         tried_ = true;
         using Make = Sound* (*)();
-        if (auto make = reinterpret_cast<Make>(
-                ResolveModule(moduleDir_, "libcontarello_sound", "contarello_make_sound")))
-            sound_.reset(make());
+        if (auto make = reinterpret_cast<Make>(ResolveModule(moduleDir_, kSoundModule))) sound_.reset(make());
     }
     return sound_.get();
 }
@@ -151,8 +149,7 @@ QString QtDialogs::SaveFile(const QString& title, const QString& defaultName, co
 std::unique_ptr<QPagedPaintDevice> QtPrinter::open(const QString& docName) {
     if (!tried_) {
         tried_ = true;
-        open_ = reinterpret_cast<Open>(
-            ResolveModule(moduleDir_, "libcontarello_print", "contarello_default_printer"));
+        open_ = reinterpret_cast<Open>(ResolveModule(moduleDir_, kPrintModule));
     }
     return std::unique_ptr<QPagedPaintDevice>(open_ ? open_(docName) : nullptr);
 }

@@ -3,7 +3,6 @@
 // and input boxes, and the system's default printer.
 
 #include "core/services.h"
-#include "shell/fonts.h"
 
 #include <QObject>
 #include <map>
@@ -20,9 +19,16 @@ void PrepareToolkit(QApplication& app);
 // The Italian texts of Qt's own boxes and menus, needed from the first box on, not for the start.
 void InstallItalianTexts(QCoreApplication& app);
 
-// An entry of one of the program's modules in moduleDir, or null when the module or its entry
-// isn't there.
-QFunctionPointer ResolveModule(const QString& moduleDir, const char* module, const char* entry);
+// The program's modules, loaded when first needed: the library's name and its entry.
+struct ProgramModule {
+    const char* library;
+    const char* entry;
+};
+inline constexpr ProgramModule kSoundModule{"libcontarello_sound", "contarello_make_sound"};
+inline constexpr ProgramModule kPrintModule{"libcontarello_print", "contarello_default_printer"};
+
+// The module's entry in moduleDir, or null when the module or its entry isn't there.
+QFunctionPointer ResolveModule(const QString& moduleDir, const ProgramModule& module);
 
 class QtRandom : public Random {
 public:
