@@ -11,6 +11,7 @@ PACKAGES=(
     libfontconfig-dev                 # the program's own font configuration
     libbenchmark-dev                  # the benchmark
     poppler-utils                     # the tests read the saved PDF back
+    xvfb xauth                        # the tests start the program on a virtual X display
     desktop-file-utils appstream      # the tests validate the menu entry and the metadata
     dpkg-dev file                     # cpack's .deb and its dependencies
     clang libclang-rt-14-dev          # the fuzz targets: clang with its libFuzzer runtime

@@ -50,4 +50,14 @@ done
 report=$(CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen "$build/contarello") ||
     fail "the program in the build tree misses files:"$'\n'"$report"
 [ "$(grep -c "^ok      $build/suoni/" <<<"$report")" -eq 6 ] || fail "build tree sounds:"$'\n'"$report"
+# The start checks fail on what a machine may lack: the program's face, or a sound.
+CONTARELLO_EXIT_AFTER_FIRST_PAINT=1 QT_QPA_PLATFORM=offscreen "$root/bin/contarello" 2>/dev/null ||
+    fail "the installed program did not get through its start"
+printf '<?xml version="1.0"?>\n<fontconfig></fontconfig>\n' >"$scratch/nofonts.conf"
+report=$(FONTCONFIG_FILE=$scratch/nofonts.conf CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen \
+    "$root/bin/contarello" 2>/dev/null) && fail "a machine without the program's face passed the check"
+grep -q "^MISSING Liberation Sans Bold$" <<<"$report" || fail "the missing face was not named:"$'\n'"$report"
+rm "$root/share/contarello/suoni/no.wav"
+CONTARELLO_EXIT_AFTER_FIRST_PAINT=1 QT_QPA_PLATFORM=offscreen "$root/bin/contarello" 2>/dev/null &&
+    fail "a start without a sound passed"
 echo "installed tree: ${#expected[@]} files and the modules in place, sounds found"
