@@ -13,6 +13,7 @@ PACKAGES=(
     poppler-utils                     # the tests read the saved PDF back
     desktop-file-utils appstream      # the tests validate the menu entry and the metadata
     dpkg-dev file                     # cpack's .deb and its dependencies
+    lintian                           # the tests check the .deb as Debian's packagers do
     clang libclang-rt-14-dev          # the fuzz targets: clang with its libFuzzer runtime
 )
 
