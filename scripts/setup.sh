@@ -14,6 +14,7 @@ PACKAGES=(
     xvfb xauth                        # the tests start the program on a virtual X display
     desktop-file-utils appstream      # the tests validate the menu entry and the metadata
     dpkg-dev file                     # cpack's .deb and its dependencies
+    lintian                           # the tests check the .deb as Debian's packagers do
     clang libclang-rt-14-dev          # the fuzz targets: clang with its libFuzzer runtime
 )
 

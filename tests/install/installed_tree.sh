@@ -19,6 +19,9 @@ expected=(
     share/applications/$id.desktop
     share/metainfo/$id.metainfo.xml
     share/icons/hicolor/scalable/apps/$id.svg
+    share/man/man1/contarello.1.gz
+    share/doc/contarello/copyright
+    share/doc/contarello/changelog.gz
 )
 for s in si1 si2 si3 si4 si no; do expected+=("share/contarello/suoni/$s.wav"); done
 for f in "${expected[@]}"; do [ -f "$root/$f" ] || fail "$f is not installed"; done
@@ -34,6 +37,11 @@ done
 desktop-file-validate "$root/share/applications/$id.desktop" || fail "the .desktop entry does not validate"
 appstreamcli validate --no-net --pedantic "$root/share/metainfo/$id.metainfo.xml" >/dev/null ||
     fail "the AppStream metadata does not validate"
+# `man contarello` finds the page in the tree and formats it without a complaint.
+page=$(MANPATH=$root/share/man man -w contarello) || fail "man does not find the manual page"
+[ "$page" = "$root/share/man/man1/contarello.1.gz" ] || fail "man finds another page: $page"
+warnings=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -E UTF-8 -l "$page" 2>&1 >/dev/null)
+[ -z "$warnings" ] || fail "the manual page does not format cleanly:"$'\n'"$warnings"
 grep -q "^Icon=$id\$" "$root/share/applications/$id.desktop" || fail "the entry names another icon"
 grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$root/share/metainfo/$id.metainfo.xml" ||
     fail "the metadata names another entry"
