@@ -3,6 +3,7 @@
 #include "shell/form.h"
 #include "shell/printout.h"
 #include "shell/program.h"
+#include "shell/stile.h"
 
 #include <QAction>
 #include <QMenu>
@@ -236,6 +237,11 @@ MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* pare
         menuBar_->setFont(SansSerif(9.75));
     }
     QWidget* holder = parentItem ? static_cast<QWidget*>(parentItem->submenu()) : menuBar_;
+    // A drop-down menu reads like the bar it hangs from, at the program's scale.
+    if (parentItem) {
+        holder->setFont(menuBar_->font());
+        AllaScala(*holder);
+    }
     auto* a = new QAction(caption, holder);
     holder->insertAction(before ? before->action() : nullptr, a);
     if (!parentItem) {
