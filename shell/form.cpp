@@ -83,7 +83,10 @@ void Form::toggleFullScreen() {
     if (isFullScreen()) {
         showNormal();
         setFixedSize(page_->size());
+        // Back where it stood: a window manager left alone puts it in its corner.
+        move(dovePrima_);
     } else {
+        dovePrima_ = pos();
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         showFullScreen();

@@ -127,12 +127,15 @@ private slots:
                  qPrintable(seen));
     }
 
-    // F11 fills the display with the screen's own colour and keeps the screen, unchanged, in the middle.
+    // F11 fills the display with the screen's own colour and keeps the screen, unchanged, in the middle;
+    // F11 again puts it back where it was.
     void f11ShowsTheScreenCentred() {
         Harness h;
         h.run(R"({"show": "Form1"})");
         Form* form = h.engine.program().nav.find("Form1");
+        form->move(40, 30);
         const QSize size = form->size();
+        const QPoint where = form->pos();
         const QPoint at = form->client()->mapTo(form, QPoint(0, 0));
         form->activateWindow();
         QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
@@ -142,6 +145,7 @@ private slots:
         QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
         QTRY_VERIFY(!form->isFullScreen());
         QCOMPARE(form->size(), size);
+        QCOMPARE(form->pos(), where); // back where it stood, not in a corner
     }
 };
 
