@@ -32,22 +32,19 @@ Shape* Pallina(Shape* s, QColor colore) {
 
 // A green tick in a circle: "this is my answer".
 QPixmap Spunta() {
-    QPixmap pm(32, 32);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    const QColor verde(0x00, 0x80, 0x00);
-    p.setPen(QPen(verde, 2));
-    p.setBrush(QColor(0xe0, 0xff, 0xe0));
-    p.drawEllipse(QRectF(2, 2, 28, 28));
-    QPainterPath segno;
-    segno.moveTo(9, 16);
-    segno.lineTo(14, 22);
-    segno.lineTo(24, 10);
-    p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p.setBrush(Qt::NoBrush);
-    p.drawPath(segno);
-    return pm;
+    return pictures::Disegna([](QPainter& p) {
+        const QColor verde(0x00, 0x80, 0x00);
+        p.setPen(QPen(verde, 2));
+        p.setBrush(QColor(0xe0, 0xff, 0xe0));
+        p.drawEllipse(QRectF(2, 2, 28, 28));
+        QPainterPath segno;
+        segno.moveTo(9, 16);
+        segno.lineTo(14, 22);
+        segno.lineTo(24, 10);
+        p.setPen(QPen(verde, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.setBrush(Qt::NoBrush);
+        p.drawPath(segno);
+    });
 }
 
 QString Parola(int numero, Modulo1& g) {

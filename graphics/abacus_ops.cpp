@@ -1,5 +1,6 @@
 #include "graphics/abacus_ops.h"
 #include "core/lang.h"
+#include "shell/pictures.h"
 #include "shell/program.h"
 
 #include <QPainter>
@@ -35,24 +36,24 @@ template <size_t N> const AbacoOpMember* trova(const AbacoOpMember (&table)[N], 
 
 // A red arrow across the button: towards the tens wire, or away from it towards the units.
 QPixmap FrecciaRossa(bool aSinistra) {
-    QPixmap pm(32, 32);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    p.setRenderHint(QPainter::Antialiasing);
-    if (aSinistra) p.setTransform(QTransform(-1, 0, 0, 1, 32, 0));
-    QPainterPath freccia;
-    freccia.moveTo(2, 12);
-    freccia.lineTo(18, 12);
-    freccia.lineTo(18, 5);
-    freccia.lineTo(30, 16);
-    freccia.lineTo(18, 27);
-    freccia.lineTo(18, 20);
-    freccia.lineTo(2, 20);
-    freccia.closeSubpath();
-    p.setPen(QPen(QColor(0x80, 0x00, 0x00), 1.2));
-    p.setBrush(kRosso);
-    p.drawPath(freccia);
-    return pm;
+    return pictures::Disegna([aSinistra](QPainter& p) {
+        if (aSinistra) { // mirrored on the grid
+            p.translate(32, 0);
+            p.scale(-1, 1);
+        }
+        QPainterPath freccia;
+        freccia.moveTo(2, 12);
+        freccia.lineTo(18, 12);
+        freccia.lineTo(18, 5);
+        freccia.lineTo(30, 16);
+        freccia.lineTo(18, 27);
+        freccia.lineTo(18, 20);
+        freccia.lineTo(2, 20);
+        freccia.closeSubpath();
+        p.setPen(QPen(QColor(0x80, 0x00, 0x00), 1.2));
+        p.setBrush(kRosso);
+        p.drawPath(freccia);
+    });
 }
 
 } // namespace

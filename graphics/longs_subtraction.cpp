@@ -138,7 +138,7 @@ void LongsSubForm::TogliLeUnita() {
     BotDecine1->setEnabled(false);
     BotUnita1->setEnabled(false);
     if (Cambio) Cambio->setEnabled(false);
-    Consegna("Clicca con il mouse sulle sulle unità da eliminare.");
+    Consegna("Clicca con il mouse sulle unità da eliminare.");
     UnitaCliccabili(true);
     suona(app);
 }
@@ -165,7 +165,7 @@ void LongsSubForm::togliledecine() {
     DecineCliccabili(true);
     UnitaCliccabili(false);
     suona(app);
-    Consegna("Clicca con il mouse sulle sulle decine da eliminare.");
+    Consegna("Clicca con il mouse sulle decine da eliminare.");
 }
 
 void LongsSubForm::Decina1_Click(int index) {

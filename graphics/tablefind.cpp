@@ -15,7 +15,7 @@ TabellaLivelliForm::TabellaLivelliForm(Program& program, const char* scheda, boo
           o.scheda = scheda;
           return o;
       }()) {
-    mnuTabella = menu(QStringLiteral("mnuTabella"), QStringLiteral("Tabella        "), nullptr, mnuStampa);
+    mnuTabella = menu(QStringLiteral("mnuTabella"), QStringLiteral("Tabella"), nullptr, mnuStampa);
     if (facile) mnuFacile = menu(QStringLiteral("mnuFacile"), QStringLiteral("facile"), mnuTabella);
     mnuMedia = menu(QStringLiteral("mnuMedia"), QStringLiteral("media"), mnuTabella);
     mnuDifficile = menu(QStringLiteral("mnuDifficile"), QStringLiteral("difficile"), mnuTabella);
@@ -36,7 +36,7 @@ void TabellaLivelliForm::Scegli(MenuItem* item) {
 
 void TabellaLivelliForm::Activate() {
     BottoneAvanti->setVisible(g.AttendiBottone != False);
-    BottoneAvanti->setEnabled(false);
+    // A screen that was waiting for "avanti" still waits, with the button live.
     AzzeraConteggio();
     Ricomincia();
     Riapri();
@@ -140,7 +140,8 @@ Form100Ricon::Form100Ricon(Program& program) : TabellaLivelliForm(program, "form
 }
 
 void Form100Ricon::Riapri() {
-    Text1->setEnabled(true);
+    // While "avanti" waits the box stays shut; its click opens it with the next question.
+    Text1->setEnabled(!BottoneAvanti->isEnabled());
 }
 
 void Form100Ricon::RiempiTabella() {

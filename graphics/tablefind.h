@@ -14,7 +14,8 @@ public:
     TabellaLivelliForm(Program& app, const char* scheda, bool facile);
 
     // A new start each time the screen comes up, back from the worksheet included: counters, the
-    // round of ten and the red cells all go, so what the child sees matches the counters.
+    // round of ten and the red cells all go, so what the child sees matches the counters. A screen
+    // waiting for "avanti" goes on waiting.
     void Activate() override;
     QJsonObject fields() const override;
 
@@ -25,7 +26,8 @@ protected:
     void Ricomincia();
     // One more number found in this round; the tenth clears the table at once.
     void Trovato();
-    // What each screen sets going again as it starts: the cells, or the answer box.
+    // What each screen sets going again as it starts: the cells, or the answer box unless "avanti"
+    // is waiting.
     virtual void Riapri() = 0;
     // A question's cell: first from the whole table; if that one is taken, again under the limit;
     // and if luck keeps failing, straight from the free cells, under the limit where there are any.

@@ -102,9 +102,9 @@ void TableStepForm::Activate() {
 
 void TableStepForm::Imposta() {
     BottoneAvanti->setVisible(g.AttendiBottone != False);
-    // Coming back to a screen that was waiting for "avanti": the new question starts a new round,
-    // so the cell greyed by the old one is a cell like the others again.
-    BottoneAvanti->setEnabled(false);
+    // Coming back to a screen that was waiting for "avanti", it still waits: the button stays live
+    // and its click draws the next question. The cell greyed by the old answer is a cell like the
+    // others again.
     AbilitaTutte();
     AzzeraConteggio();
     ScriviTutti();

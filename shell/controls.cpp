@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionButton>
+#include <algorithm>
 #include <limits>
 
 namespace contarello {
@@ -403,6 +404,8 @@ void TextBox::setFontSize(double points) {
 }
 
 void TextBox::keyPressEvent(QKeyEvent* e) {
+    if (!e->isAutoRepeat() && std::find(premuti_.begin(), premuti_.end(), e->key()) == premuti_.end())
+        premuti_.push_back(e->key());
     if (KeyPress) {
         const int code = ansiOf(e);
         if (code != 0) {
@@ -428,7 +431,18 @@ void TextBox::keyReleaseEvent(QKeyEvent* e) {
     QLineEdit::keyReleaseEvent(e);
     // A held key repeats its presses but is released once: so is Enter taken once.
     if (e->isAutoRepeat()) return;
+    // The Enter that closes a message box is pressed in the box and released here: it is no answer.
+    const auto premuto = std::find(premuti_.begin(), premuti_.end(), e->key());
+    if (premuto == premuti_.end()) return;
+    premuti_.erase(premuto);
     if (KeyUp) KeyUp(vbKeyCode(e), vbShift(e->modifiers()));
+}
+
+void TextBox::focusOutEvent(QFocusEvent* e) {
+    // A key still down when the focus goes (to a box that opened, to another control) is released
+    // somewhere else as far as this box is concerned.
+    premuti_.clear();
+    QLineEdit::focusOutEvent(e);
 }
 
 // ---- MultiLineTextBox ----

@@ -196,16 +196,21 @@ public:
 
     // The ANSI code of the key typed; the handler may change it, and 0 drops the key.
     std::function<void(int& keyAscii)> KeyPress;
-    // Taken on release, once even when the key is held down. 13 is Enter.
+    // Taken on release, once even when the key is held down. 13 is Enter. Only a key pressed in
+    // this box counts: the release of a key pressed elsewhere (in a message box that Enter closed,
+    // on another control) never judges an answer.
     std::function<void(int keyCode, int shift)> KeyUp;
 
 protected:
     void paintEvent(QPaintEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     void keyReleaseEvent(QKeyEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
 
 private:
     bool fontSizeSet_ = false;
+    // The keys pressed in this box and not yet released, while it kept the focus.
+    std::vector<int> premuti_;
 };
 
 // Several lines with both scroll bars; its text keeps CR LF line ends as the program writes them.

@@ -4,6 +4,7 @@
 #include "shell/fonts.h"
 #include "shell/printout.h"
 #include "shell/program.h"
+#include "shell/stile.h"
 
 #include <QAction>
 #include <QMenu>
@@ -83,7 +84,10 @@ void Form::toggleFullScreen() {
     if (isFullScreen()) {
         showNormal();
         setFixedSize(page_->size());
+        // Back where it stood: a window manager left alone puts it in its corner.
+        move(dovePrima_);
     } else {
+        dovePrima_ = pos();
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         showFullScreen();
@@ -237,6 +241,11 @@ MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* pare
         menuBar_->setFont(SansSerif(9.75));
     }
     QWidget* holder = parentItem ? static_cast<QWidget*>(parentItem->submenu()) : menuBar_;
+    // A drop-down menu reads like the bar it hangs from, at the program's scale.
+    if (parentItem) {
+        holder->setFont(menuBar_->font());
+        AllaScala(*holder);
+    }
     auto* a = new QAction(caption, holder);
     holder->insertAction(before ? before->action() : nullptr, a);
     if (!parentItem) {

@@ -102,6 +102,7 @@ private:
     QColor backColor_;
     QString caption_;
     int widthTwips_, heightTwips_;
+    QPoint dovePrima_; // where the window stood before it went full screen
 };
 
 } // namespace contarello

@@ -50,6 +50,10 @@ void face(QPainter& p, bool smiling) {
 
 } // namespace
 
+QPixmap Disegna(const std::function<void(QPainter&)>& draw) {
+    return paint(draw);
+}
+
 QPixmap FacciaSorridente() {
     return paint([](QPainter& p) { face(p, true); });
 }

@@ -2,8 +2,14 @@
 // The pictures of the buttons, drawn here rather than loaded: 32 by 32 pixels each.
 
 #include <QPixmap>
+#include <functional>
+
+class QPainter;
 
 namespace contarello::pictures {
+
+// A picture of a screen's own, drawn on the same 32 by 32 grid as these and grown with them.
+QPixmap Disegna(const std::function<void(QPainter&)>& draw);
 
 QPixmap FacciaSorridente(); // round yellow face, smiling
 QPixmap FacciaTriste();     // round yellow face, sad

@@ -1,6 +1,8 @@
 #include "shell/qtservices.h"
+#include "shell/controls.h"
 #include "shell/fonts.h"
 #include "shell/printout.h"
+#include "shell/stile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -8,6 +10,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLibrary>
 #include <QLibraryInfo>
 #include <QMessageBox>
@@ -17,6 +20,7 @@
 #include <QStyleFactory>
 #include <QTranslator>
 #include <chrono>
+#include <cmath>
 
 namespace contarello {
 
@@ -68,22 +72,30 @@ void LazySound::preload(const QString& path) {
 
 namespace {
 // The boxes are read by a parent or a teacher beside the child: a size that reads from a step back.
+// The file dialog keeps it at every scale.
 QFont kBoxFont() {
     QFont f(ProgramFamily());
     f.setPointSizeF(12);
     return f;
 }
+// The message and input boxes grow with the screens, like everything on them.
+QFont FontScalato() {
+    return Arial(12, false);
+}
+int scalato(int pixels) {
+    return int(std::lround(pixels * ScaleFactor()));
+}
 // The window system writes the title in the bar beside its own icon and buttons: a box at least
 // this wide shows the whole title, however short its text.
 int LarghezzaPerTitolo(const QString& title) {
-    return QFontMetrics(kBoxFont()).horizontalAdvance(title) + 180;
+    return QFontMetrics(FontScalato()).horizontalAdvance(title) + scalato(180);
 }
 
 } // namespace
 
 int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
     QMessageBox box(QApplication::activeWindow());
-    box.setFont(kBoxFont());
+    box.setFont(FontScalato());
     box.setWindowTitle(title);
     box.setText(text);
     // The box sizes itself to its text; a row as wide as the title keeps it from getting narrower.
@@ -91,38 +103,54 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
         grid->addItem(
             new QSpacerItem(LarghezzaPerTitolo(title), 0, QSizePolicy::Minimum, QSizePolicy::Minimum),
             grid->rowCount(), 0, 1, grid->columnCount());
+    QStyle::StandardPixmap icona = QStyle::SP_CustomBase;
     switch (style & 0xF0) {
     case vbCritical:
-        box.setIcon(QMessageBox::Critical);
+        icona = QStyle::SP_MessageBoxCritical;
         break;
     case 32:
-        box.setIcon(QMessageBox::Question);
+        icona = QStyle::SP_MessageBoxQuestion;
         break;
     case 48:
-        box.setIcon(QMessageBox::Warning);
+        icona = QStyle::SP_MessageBoxWarning;
         break;
     case vbInformation:
-        box.setIcon(QMessageBox::Information);
+        icona = QStyle::SP_MessageBoxInformation;
         break;
     default:
         break;
     }
-    if ((style & 0xF) == 4) {
-        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        box.setDefaultButton(QMessageBox::Yes);
-        return box.exec() == QMessageBox::Yes ? vbYes : vbNo;
+    const bool siNo = (style & 0xF) == 4;
+    box.setStandardButtons(siNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    if (siNo) box.setDefaultButton(QMessageBox::Yes);
+    AllaScala(box);
+    // The icon drawn at the box's own scale, not grown from the toolkit's small one.
+    if (icona != QStyle::SP_CustomBase) {
+        const int lato = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+        // The theme may hold the icon no larger than the toolkit's own size: taken large, fitted.
+        const QPixmap grande = box.style()->standardIcon(icona, nullptr, &box).pixmap(QSize(128, 128));
+        box.setIconPixmap(grande.scaled(lato, lato, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     }
-    box.setStandardButtons(QMessageBox::Ok);
-    box.exec();
-    return vbOK;
+    // The box wraps a text wider than its own limit in pixels; a text that fits a box at scale 1
+    // keeps its one line at any scale.
+    if (auto* testo = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        const int riga =
+            QFontMetrics(testo->font()).boundingRect(QRect(0, 0, 100000, 100000), 0, text).width();
+        testo->setMinimumWidth(std::min(riga, scalato(500)));
+    }
+    const int scelta = box.exec();
+    return siNo ? (scelta == QMessageBox::Yes ? vbYes : vbNo) : vbOK;
 }
 
 QString QtDialogs::InputBox(const QString& prompt, const QString& title, const QString& defaultText) {
     QInputDialog box(QApplication::activeWindow());
+    box.setFont(FontScalato());
     box.setWindowTitle(title);
     box.setLabelText(prompt);
     box.setTextValue(defaultText);
     box.setMinimumWidth(LarghezzaPerTitolo(title));
+    box.okButtonText(); // the box makes its parts on first need: here, so that they take the scale
+    AllaScala(box);
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 

@@ -2,8 +2,8 @@
 #include "core/lang.h"
 #include "core/numberwords.h"
 #include "shell/program.h"
+#include "worksheets/caselle.h"
 
-#include <QFontMetrics>
 #include <QJsonArray>
 #include <QTextDocument>
 
@@ -68,22 +68,7 @@ int SchedaAbaco::Disegna() {
 }
 
 void SchedaAbaco::Scrivi(const QString (&testi)[8]) {
-    // The longest word takes all eight boxes a little below the sheet's size, so that none is cut
-    // short and the page stays even.
-    QFont f = Arial(textPoints_);
-    const int spazio = Text1(0)->width() - 10; // the box's edge and its inner margins
-    auto entra = [&] {
-        for (const QString& t : testi)
-            if (QFontMetrics(f).horizontalAdvance(t) > spazio) return false;
-        return true;
-    };
-    while (f.pointSizeF() > 7 && !entra())
-        f.setPointSizeF(f.pointSizeF() - 0.25);
-    for (int i = 0; i < 8; ++i) {
-        Text1(i)->setFont(f);
-        Text1(i)->setText(testi[i]);
-        Text1(i)->setCursorPosition(0);
-    }
+    ScriviInCaselle(Text1, QStringList(std::begin(testi), std::end(testi)), textPoints_);
 }
 
 // ---- formSt99a ----

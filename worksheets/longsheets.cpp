@@ -2,8 +2,7 @@
 #include "core/lang.h"
 #include "core/numberwords.h"
 #include "shell/program.h"
-
-#include <QFontMetrics>
+#include "worksheets/caselle.h"
 
 namespace contarello {
 
@@ -15,18 +14,6 @@ constexpr int kCelle = 8, kPezzi = 9;
 // Cells stand in four columns, the first row above the second.
 int Colonna(int i) {
     return 120 + 2400 * (i % 4);
-}
-
-// The longest words don't fit a box in the size of the page: they take a smaller size, so that the
-// whole word and the line after it are printed.
-void Adatta(TextBox* box, double punti) {
-    constexpr double kMinimo = 7;
-    const int spazio = box->contentsRect().width() - 8; // the box's own inner margins
-    QFont f = box->font();
-    f.setPointSizeF(punti);
-    while (f.pointSizeF() > kMinimo && QFontMetrics(f).horizontalAdvance(box->Text()) > spazio)
-        f.setPointSizeF(f.pointSizeF() - 0.25);
-    if (f.pointSizeF() != box->font().pointSizeF()) box->setFontSize(f.pointSizeF());
 }
 
 } // namespace
@@ -80,12 +67,12 @@ formStampa1::formStampa1(Program& program)
 
 // Words of 0 to one below the limit; the blank after each is where the digits go.
 void formStampa1::Genera8Numeri() {
+    QStringList testi;
     for (int i = 0; i < kCelle; ++i) {
         long long x = Draw(app.rnd, g.NumeroMassimo);
-        Text1(i)->setText(NumeroInParole(x, g) + QStringLiteral(" ___ "));
-        Adatta(Text1(i), 9.75);
-        Text1(i)->setCursorPosition(0);
+        testi << NumeroInParole(x, g) + QStringLiteral(" ___ ");
     }
+    ScriviInCaselle(Text1, testi, 9.75);
 }
 
 // ---- formStampa4 ----

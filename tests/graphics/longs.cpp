@@ -176,14 +176,14 @@ private slots:
             dopo(h, "BotUnita1*2 Unita1(0) BotDecine1*5"), // no square clicked away while the number is built
             "Non hai unità sufficienti. Premi il bottone cambio per cambiare una decina in unità. | "
             "Decina1 11111 | Unita1 11 | Cambio | si.wav | si.wav | si.wav");
-        QCOMPARE(dopo(h, "Cambio"), "Clicca con il mouse sulle sulle unità da eliminare. | Decina1 1111 | "
+        QCOMPARE(dopo(h, "Cambio"), "Clicca con il mouse sulle unità da eliminare. | Decina1 1111 | "
                                     "Unita1 11 | Unita2 1111111111 | si.wav");
         // the longs wait their turn; the last square clicked is already gone
         QCOMPARE(
             dopo(
                 h,
                 "Decina1(0) Unita2(9) Unita1(0) Unita2(0) Unita2(4) Unita1(1) Unita2(1) Unita2(0) Unita2(2)"),
-            "Clicca con il mouse sulle sulle decine da eliminare. | Decina1 1111 | "
+            "Clicca con il mouse sulle decine da eliminare. | Decina1 1111 | "
             "Unita2 000101111 | si.wav | si.wav");
         QCOMPARE(dopo(h, "Unita2(3) Decina1(3) Decina1(0)"), // the squares are still now
                  "Inserisci il risultato. | Decina1 011 | Unita2 000101111 | Risultato | si.wav");
@@ -215,7 +215,7 @@ private slots:
                      .section(" | ", 1, 2),
                  "Decina1 11111 | Unita1 11111111"); // the shape clicked while the number is built stays
         QCOMPARE(dopo(h, QStringLiteral("%1(0) %1(1)").arg(clic)).section(" | ", 0, 0),
-                 QStringLiteral("Clicca con il mouse sulle sulle %1 da eliminare.").arg(passo));
+                 QStringLiteral("Clicca con il mouse sulle %1 da eliminare.").arg(passo));
         QCOMPARE(dopo(h, clic + "(2)").section(" | ", 0, 0), "Inserisci il risultato.");
         QFETCH(QString, risultato);
         h.answer("Risultato", risultato);

@@ -33,14 +33,16 @@ void apri(Harness& h, const QString& form, int limite, std::initializer_list<dou
     h.rnd(draws);
     h.run(QStringLiteral(R"j({"show": "%1"})j").arg(form));
 }
-// To the drawn worksheet and back: counters and round start again, every cell answers.
+// To the drawn worksheet and back, from a question answered and waiting for "avanti": counters
+// and round start again, and the screen goes on waiting.
 void schedaEritorno(Harness& h, const QString& scheda, std::initializer_list<double> draws) {
+    QVERIFY(h.enabled("BottoneAvanti"));
     menu(h, "mnuStampa");
     QCOMPARE(h.form(), scheda);
     h.rnd(draws);
     menu(h, "mnuesci");
     QCOMPARE(h.global("Esatti") + h.dump().value("fields")["Trovati"].toInt(-1), 0);
-    QVERIFY(!h.enabled("BottoneAvanti"));
+    QVERIFY(h.enabled("BottoneAvanti"));
 }
 
 } // namespace
@@ -76,6 +78,7 @@ private slots:
         for (const char* i : {"mnuFacile", "mnuMedia", "mnuDifficile"})
             if (controls.value(i)["checked"].toBool()) visti << QStringLiteral(" ") + i;
         QTEST(visti.join('|'), "visti");
+        QCOMPARE(controls.value("mnuTabella")["caption"].toString(), QStringLiteral("Tabella"));
         QCOMPARE(h.global("NumeroEsatto"), 33);
         if (form == "Form100Ricon") QVERIFY(rosse(h).contains(33) && h.caption(cella(33)).isEmpty());
     }
@@ -145,8 +148,12 @@ private slots:
         h.answer("Text1", "");
         QCOMPARE(h.global("Esatti"), 11);
         schedaEritorno(h, "formStampa3", {0.5, 0.55});
-        QVERIFY(h.enabled("Text1"));
+        QVERIFY(!h.enabled("Text1") && h.text("Text1").isEmpty());
         QCOMPARE(rosse(h), QList<int>{55}); // the new question only
+        h.rnd({0.5, 0.66});
+        h.run(kAvanti);
+        QVERIFY(h.enabled("Text1") && !h.enabled("BottoneAvanti") && h.global("NumeroEsatto") == 66);
+        QCOMPARE(h.dump().value("focus").toString(), QStringLiteral("Text1"));
     }
 };
 

@@ -1,14 +1,19 @@
 // The drawn controls of the forms layer: figures in their own colours, every mouse button delivered
-// as pressed, a label dropped for real through the drag filter, and a screen printed.
+// as pressed, a key released where it was pressed, a label dropped for real through the drag
+// filter, and a screen printed.
 
+#include "app/screens.h"
 #include "core/scripted.h"
 #include "driver/recordingprinter.h"
 #include "shell/form.h"
 #include "shell/program.h"
+#include "shell/qtservices.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTest>
+#include <QTimer>
 
 using namespace contarello;
 
@@ -30,6 +35,7 @@ public:
     using Form::button;
     using Form::label;
     using Form::shape;
+    using Form::textBox;
     void menuItem(const char* name, const char* caption) { menu(name, caption); }
 };
 
@@ -39,6 +45,16 @@ struct Figura {
     QColor back, fill, border;
     QPoint probe;    // a point in the 40 x 30 pixel box
     QColor expected; // white where the screen shows through
+};
+
+// The program with the real message boxes of the toolkit, everything else scripted.
+struct RealBoxes {
+    EventLog log;
+    ScriptedRandom rnd{&log};
+    RecordingSound sound{log, QStringLiteral("/app")};
+    QtDialogs dialogs;
+    RecordingPrinter printer{log};
+    Program app{rnd, sound, dialogs, printer, QStringLiteral("/app"), FormTable(), &log};
 };
 
 } // namespace
@@ -107,6 +123,141 @@ private slots:
             QTest::mouseRelease(w, b, {}, QPoint(10, 20));
         }
         QCOMPARE(seen, "click, down 1 at 150 up 1, down 2 at 150 up 2, down 4 at 150 up 4, ");
+    }
+
+    // Keys as the window system delivers them to a box: p presses Enter, h repeats it while held,
+    // r releases it, a presses A, f takes the focus away and back. Enter is taken once, on the
+    // release of a press the box had.
+    void keyUpAfterItsPress_data() {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<int>("taken");
+        QTest::newRow("pressed and released") << "pr" << 1;
+        QTest::newRow("released alone: pressed in a box that closed") << "r" << 0;
+        QTest::newRow("held down, released once") << "phhhr" << 1;
+        QTest::newRow("a second release without a press") << "prr" << 1;
+        QTest::newRow("pressed, the focus went away and back, released") << "pfr" << 0;
+        QTest::newRow("pressed again once the focus is back") << "pfpr" << 1;
+        QTest::newRow("another key pressed") << "ar" << 0;
+        QTest::newRow("two answers") << "prpr" << 2;
+    }
+    void keyUpAfterItsPress() {
+        QFETCH(QString, keys);
+        Services s;
+        Board board(s.app);
+        TextBox* box = board.textBox("Text1", 0, 0, 1500, 600, Arial(12));
+        int taken = 0;
+        box->KeyUp = [&taken](int keyCode, int) { taken += keyCode == 13; };
+        for (QChar k : keys) {
+            const QEvent::Type type = k == 'r' ? QEvent::KeyRelease : QEvent::KeyPress;
+            QKeyEvent key(type, k == 'a' ? Qt::Key_A : Qt::Key_Return, Qt::NoModifier, k == 'a' ? "a" : "\r",
+                          k == 'h');
+            if (k == 'f') {
+                QFocusEvent out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+                QFocusEvent in(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+                QCoreApplication::sendEvent(box, &out);
+                QCoreApplication::sendEvent(box, &in);
+            } else {
+                QCoreApplication::sendEvent(box, &key);
+            }
+        }
+        QTEST(taken, "taken");
+    }
+
+    // The Enter that closes a real message box is pressed in the box and released on the answer box
+    // the focus goes back to: it judges nothing, so the box shows once and the counters stand.
+    void enterThatClosesABox_data() {
+        QTest::addColumn<QString>("form");
+        QTest::addColumn<QList<double>>("draws");
+        QTest::addColumn<QString>("steps"); // clicks, n times with "*n", drags "from>to", answers "box=text"
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("esatti");
+        QTest::addColumn<int>("errati");
+        auto v = [](int k, int n) { return (k + 0.5) / n; };
+        QTest::newRow("FormGraf: 27 + 18, a wrong sum")
+            << "FormGraf" << QList<double>{0.0, v(25, 79), v(22, 35)}
+            << "BotDecine1*2 BotUnita1*7 BotUnita2*8 BotDecine2 Cambio"
+            << "Risultato"
+            << "44" << 0 << 1;
+        QTest::newRow("FormGraf1: 20 + 15, a wrong sum")
+            << "FormGraf1" << QList<double>{0.0, v(3, 10), v(5, 10), v(2, 3), 0.0}
+            << "BotDecine1*2 BotDecine2 BotUnita2*5"
+            << "Risultato"
+            << "34" << 0 << 1;
+        QTest::newRow("FormGrafMeno: 52 - 27, a wrong difference")
+            << "FormGrafMeno" << QList<double>{0.0, v(32, 79), v(22, 42)}
+            << "BotUnita1*2 BotDecine1*5 Cambio Unita1(0) Unita1(1) Unita2(0) Unita2(1) Unita2(2) Unita2(3) "
+               "Unita2(4) Decina1(3) Decina1(2)"
+            << "Risultato"
+            << "26" << 0 << 1;
+        QTest::newRow("FormGrafMeno1: 58 - 30, a wrong difference")
+            << "FormGrafMeno1" << QList<double>{0.0, v(5, 10), v(8, 10), v(3, 5), 0.0}
+            << "BotDecine1*5 BotUnita1*8 Decina1(0) Decina1(1) Decina1(2)"
+            << "Risultato"
+            << "27" << 0 << 1;
+        QTest::newRow("FormCol3: 47 - 3, Bravo")
+            << "FormCol3" << QList<double>{v(7, 10), v(3, 7), v(4, 10), v(0, 4)}
+            << "Lda1>Eda1 Lu1>Eu1 Lu2>Eu2 Eur=4"
+            << "Edar"
+            << "4" << 1 << 0;
+    }
+    void enterThatClosesABox() {
+        QFETCH(QString, form);
+        QFETCH(QList<double>, draws);
+        QFETCH(QString, steps);
+        QFETCH(QString, box);
+        QFETCH(QString, answer);
+        RealBoxes r;
+        r.app.g.NumeroMassimo = 99;
+        r.app.g.AttendiBottone = True;
+        for (double x : draws)
+            r.rnd.queue(x);
+        Form* f = r.app.nav.Show(form);
+        QVERIFY(f);
+        auto enter = [](QWidget* w) {
+            QTest::keyPress(w, Qt::Key_Return);
+            QTest::keyRelease(w, Qt::Key_Return);
+        };
+        for (const QString& step : steps.split(' ')) {
+            if (step.contains('>')) {
+                Control* target = f->find(step.section('>', 1));
+                QVERIFY(target && target->DragDrop);
+                target->DragDrop(f->find(step.section('>', 0, 0)));
+            } else if (step.contains('=')) {
+                auto* t = dynamic_cast<TextBox*>(f->find(step.section('=', 0, 0)));
+                QVERIFY(t && t->isEnabled());
+                t->setText(step.section('=', 1));
+                enter(t);
+            } else {
+                Control* c = f->find(step.section('*', 0, 0));
+                QVERIFY2(c && c->Enabled(), qPrintable(step));
+                for (int i = std::max(1, step.section('*', 1).toInt()); i > 0; --i)
+                    c->userClick();
+            }
+        }
+        auto* t = dynamic_cast<TextBox*>(f->find(box));
+        QVERIFY(t && t->isVisible() && t->isEnabled());
+        t->setText(answer);
+        // Each box that shows is closed as a child closes it: Enter pressed in the box.
+        int boxes = 0;
+        QTimer closer;
+        closer.setInterval(10);
+        QObject::connect(&closer, &QTimer::timeout, [&boxes] {
+            if (QWidget* m = QApplication::activeModalWidget()) {
+                ++boxes;
+                QTest::keyPress(m->focusWidget() ? m->focusWidget() : m, Qt::Key_Return);
+            }
+        });
+        closer.start();
+        enter(t);
+        QCOMPARE(boxes, 1);
+        // ... and released where the focus is once the box has gone.
+        QTest::keyRelease(f->focusWidget() ? f->focusWidget() : t, Qt::Key_Return);
+        closer.stop();
+        QCOMPARE(boxes, 1);
+        QFETCH(int, esatti);
+        QFETCH(int, errati);
+        QCOMPARE(std::pair(int(r.app.g.Esatti), int(r.app.g.Errati)), std::pair(esatti, errati));
     }
 
     // A drop event as the window system sends it at the end of a drag with the mouse; text from

@@ -3,9 +3,14 @@
 
 #include "shell/form.h"
 #include "shell/program.h"
+#include "shell/qtservices.h"
 #include "support/harness.h"
 
+#include <QApplication>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 using namespace contarello;
 using contarello::test::Harness;
@@ -24,6 +29,34 @@ QMap<QString, QRect> Places(const QString& screen, double factor) {
         if (QWidget* w = c->widget()) places[c->name()] = QRect(w->mapTo(form, QPoint(0, 0)), w->size());
     SetScaleFactor(1);
     return places;
+}
+
+// The size a box or a drop-down menu has at a factor.
+QSize SizeAt(const QString& what, double factor) {
+    SetScaleFactor(factor);
+    QSize size;
+    if (what == "menu") {
+        Harness h;
+        h.run(R"({"show": "Form100Trova"})");
+        auto* tabella =
+            dynamic_cast<MenuItem*>(h.engine.program().nav.find("Form100Trova")->find("mnuTabella"));
+        size = tabella->submenu()->sizeHint();
+    } else {
+        QtDialogs dialogs;
+        QTimer::singleShot(0, [&size, what] {
+            QWidget* box = QApplication::activeModalWidget();
+            // The box, or its first button: a box can grow around buttons that keep their size.
+            size = what.startsWith("button") ? box->findChild<QPushButton*>()->size() : box->size();
+            box->close();
+        });
+        if (what.endsWith("input"))
+            dialogs.InputBox(QStringLiteral("Scrivi un numero da 20 a 99"), kTitolo, QString());
+        else
+            dialogs.MsgBox(what.startsWith("button ") ? what.mid(7) : what,
+                           what.endsWith("Bravo") ? 0 : vbYesNoQuestion, kTitolo);
+    }
+    SetScaleFactor(1);
+    return size;
 }
 
 } // namespace
@@ -71,12 +104,38 @@ private slots:
         QCOMPARE(big.pointSizeF(), Arial(18).pointSizeF() * 2);
     }
 
-    // F11 fills the display with the screen's own colour and keeps the screen, unchanged, in the middle.
+    // Message boxes, input boxes and drop-down menus grow with the screens like everything else.
+    void boxesGrowWithTheScreens_data() {
+        QTest::addColumn<QString>("what");
+        QTest::newRow("message box") << "Bravo";
+        QTest::newRow("question with two buttons") << QString::fromUtf8("Vuoi tornare al menù?");
+        QTest::newRow("input box") << "input";
+        QTest::newRow("the input box's button") << "button input";
+        QTest::newRow("the message box's button") << "button Bravo";
+        QTest::newRow("the menu Tabella") << "menu";
+    }
+    void boxesGrowWithTheScreens() {
+        QFETCH(QString, what);
+        const QSize one = SizeAt(what, 1), two = SizeAt(what, 2);
+        const QString seen = QStringLiteral("%1x%2 at 1, %3x%4 at 2")
+                                 .arg(one.width())
+                                 .arg(one.height())
+                                 .arg(two.width())
+                                 .arg(two.height());
+        QVERIFY2(qAbs(two.width() / (2.0 * one.width()) - 1) < 0.1 &&
+                     qAbs(two.height() / (2.0 * one.height()) - 1) < 0.1,
+                 qPrintable(seen));
+    }
+
+    // F11 fills the display with the screen's own colour and keeps the screen, unchanged, in the middle;
+    // F11 again puts it back where it was.
     void f11ShowsTheScreenCentred() {
         Harness h;
         h.run(R"({"show": "Form1"})");
         Form* form = h.engine.program().nav.find("Form1");
+        form->move(40, 30);
         const QSize size = form->size();
+        const QPoint where = form->pos();
         const QPoint at = form->client()->mapTo(form, QPoint(0, 0));
         form->activateWindow();
         QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
@@ -86,6 +145,7 @@ private slots:
         QTest::keyClick(form->focusWidget() ? form->focusWidget() : form, Qt::Key_F11);
         QTRY_VERIFY(!form->isFullScreen());
         QCOMPARE(form->size(), size);
+        QCOMPARE(form->pos(), where); // back where it stood, not in a corner
     }
 };
 

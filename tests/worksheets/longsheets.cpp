@@ -1,10 +1,13 @@
 // The two drawn pages of longs and units: the words of formStampa1 and the longs and units of
 // formStampa4 for the numbers drawn. Printing, showing again and leaving are in pdf.cpp.
 
+#include "shell/form.h"
+#include "shell/program.h"
 #include "support/harness.h"
 
 #include <QTest>
 
+using namespace contarello;
 using contarello::test::Harness;
 
 namespace {
@@ -26,6 +29,34 @@ QStringList cells(Harness& h) {
         out << s;
     }
     return out;
+}
+
+// The words' size on a sheet opened at a scale, as a share of their boxes' width, and how many
+// sizes the page has.
+struct Parole {
+    double quota = 0;
+    int misure = 0;
+    double punti = 0; // at scale 1
+};
+Parole parole(const QString& sheet, double scala, const QList<double>& draws) {
+    SetScaleFactor(scala);
+    Harness h;
+    h.dump();
+    for (double x : draws)
+        h.rnd({x});
+    h.run(QStringLiteral(R"({"show": "%1"})").arg(sheet));
+    Form* form = h.engine.program().nav.find(sheet);
+    QSet<double> sizes;
+    Parole p;
+    for (int i = 0; i < 8; ++i) {
+        QWidget* box = form->find(QStringLiteral("Text1(%1)").arg(i))->widget();
+        sizes << box->font().pointSizeF();
+        p.quota = box->font().pointSizeF() / box->width();
+        p.punti = box->font().pointSizeF() / scala;
+    }
+    p.misure = int(sizes.size());
+    SetScaleFactor(1);
+    return p;
 }
 
 } // namespace
@@ -69,6 +100,35 @@ private slots:
         h.run(R"({"menu": "mnuesci"})");
         QCOMPARE(h.form() + ' ' + QString::number(h.global("NumeroEsatto")),
                  exercise + (words ? " 1" : " 42"));
+    }
+
+    // All the words of a page at the one size the longest needs, the sheet's own when they all fit,
+    // and in the same proportion to their boxes at scale 1 and 2.
+    void oneSizeAtEveryScale_data() {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QList<double>>("draws"); // the eight numbers
+        QTest::addColumn<double>("punti");        // the size at scale 1, 0 if smaller than the sheet's
+        const QList<double> corte{1.5 / 99, 2.5 / 99, 3.5 / 99, 6.5 / 99,
+                                  1.5 / 99, 2.5 / 99, 3.5 / 99, 6.5 / 99};
+        const QList<double> lunghe{1.5 / 99, 54.5 / 99, 2.5 / 99, 77.5 / 99,
+                                   3.5 / 99, 6.5 / 99,  0.5 / 99, 1.5 / 99};
+        QTest::newRow("formStampa1, short words") << "formStampa1" << corte << 9.75;
+        QTest::newRow("formStampa1, CINQUANTAQUATTRO among them") << "formStampa1" << lunghe << 0.0;
+        QTest::newRow("formSt99a, short words") << "formSt99a" << corte << 9.75;
+        QTest::newRow("formSt99a, long words") << "formSt99a" << lunghe << 0.0;
+    }
+    void oneSizeAtEveryScale() {
+        QFETCH(QString, sheet);
+        QFETCH(QList<double>, draws);
+        QFETCH(double, punti);
+        const Parole uno = parole(sheet, 1, draws), due = parole(sheet, 2, draws);
+        QCOMPARE(uno.misure, 1);
+        QCOMPARE(due.misure, 1);
+        QVERIFY2(qAbs(due.quota / uno.quota - 1) < 0.04, qPrintable(QString::number(due.quota / uno.quota)));
+        if (punti > 0)
+            QCOMPARE(uno.punti, punti);
+        else
+            QVERIFY(uno.punti < 9.75 && uno.punti >= 7);
     }
 };
 
