@@ -1,5 +1,6 @@
 #include "shell/qtservices.h"
 #include "shell/printout.h"
+#include "shell/style.h"
 
 #include <QApplication>
 #include <QDir>
@@ -13,7 +14,6 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTranslator>
 #include <chrono>
 
@@ -24,7 +24,8 @@ void PrepareToolkit(QApplication& app) {
     // "MS Sans Serif" has no alias of its own.
     QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
     QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // Fusion, with its pixmap cache kept from growing for ever (see shell/style.h).
+    QApplication::setStyle(new ProgramStyle);
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
 }
 
