@@ -21,7 +21,7 @@ done
 status=0
 for ((i = 0; i < jobs; i++)); do
     if wait "${pids[$i]}"; then
-        grep -h "actions," "monkey-$((first + i)).log" || true
+        grep -h "actions," "monkey-$((first + i)).log" | tail -1 || true
     else
         status=1
         echo "seed $((first + i)) failed:"

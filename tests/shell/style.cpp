@@ -6,39 +6,19 @@
 #include "shell/controls.h"
 #include "shell/qtservices.h"
 #include "support/harness.h"
+#include "support/memory.h"
 
 #include <QApplication>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QTest>
 #include <functional>
-#include <malloc.h>
 #include <memory>
-
-#if defined(__SANITIZE_ADDRESS__)
-#define CONTARELLO_ASAN 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define CONTARELLO_ASAN 1
-#endif
-#endif
-#ifdef CONTARELLO_ASAN
-#include <sanitizer/allocator_interface.h>
-#endif
 
 using namespace contarello;
 using namespace contarello::test;
 
 namespace {
-
-long long heapInUse() {
-#ifdef CONTARELLO_ASAN
-    return (long long)__sanitizer_get_current_allocated_bytes();
-#else
-    const struct mallinfo2 m = mallinfo2();
-    return (long long)(m.uordblks + m.hblkhd);
-#endif
-}
 
 void settle() {
     QCoreApplication::processEvents();
@@ -118,11 +98,11 @@ private slots:
             action(h, i);
         settle();
         const int palettes = programStyle()->palettes();
-        const long long before = heapInUse();
+        const long long before = HeapInUse();
         for (int i = 0; i < times; ++i)
             action(h, i);
         settle();
-        const long long grown = heapInUse() - before;
+        const long long grown = HeapInUse() - before;
         QVERIFY2(grown < (long long)times * bytesEach,
                  qPrintable(QStringLiteral("%1 bytes more after %2 times").arg(grown).arg(times)));
         QCOMPARE(programStyle()->palettes(), palettes);
