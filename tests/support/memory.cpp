@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QList>
+#include <cstddef>
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -12,7 +13,8 @@
 #endif
 #endif
 #ifdef CONTARELLO_ASAN
-#include <sanitizer/allocator_interface.h>
+// The sanitizer's runtime has it under either compiler; only clang ships its header.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace contarello::test {
