@@ -110,6 +110,17 @@ void BM_AnsweredQuestion(benchmark::State& state) {
 }
 BENCHMARK(BM_AnsweredQuestion)->Unit(benchmark::kMicrosecond);
 
+// The menu of the number exercises repainted whole: the bevels of its many coloured buttons.
+void BM_RepaintMenu(benchmark::State& state) {
+    DriverEngine engine;
+    engine.execute(cmd(R"({"click": "BottoneAvvio"})"));
+    engine.execute(cmd(R"({"click": "Command3"})"));
+    Form* menu = engine.program().nav.active();
+    for (auto _ : state)
+        menu->repaint();
+}
+BENCHMARK(BM_RepaintMenu)->Unit(benchmark::kMicrosecond);
+
 // One tick named and the next one marked; the fifth answer of a line draws a new line at once.
 void BM_AnsweredTick(benchmark::State& state) {
     DriverEngine engine;

@@ -3,6 +3,7 @@
 #include "shell/fonts.h"
 #include "shell/printout.h"
 #include "shell/stile.h"
+#include "shell/style.h"
 
 #include <QApplication>
 #include <QDir>
@@ -17,7 +18,6 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTranslator>
 #include <chrono>
 #include <cmath>
@@ -25,7 +25,8 @@
 namespace contarello {
 
 void PrepareToolkit(QApplication& app) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // Fusion, with its pixmap cache kept from growing for ever (see shell/style.h).
+    QApplication::setStyle(new ProgramStyle);
     app.setFont(QFont(ProgramFamily(), 9));
 }
 

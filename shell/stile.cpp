@@ -1,5 +1,6 @@
 #include "shell/stile.h"
 #include "shell/controls.h"
+#include "shell/style.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -16,10 +17,10 @@ int scalato(int pixels) {
     return int(std::lround(pixels * ScaleFactor()));
 }
 
-// The application's style with every size grown by the factor, read afresh at each call.
+// The program's style with every size grown by the factor, read afresh at each call.
 class StileScalato : public QProxyStyle {
 public:
-    StileScalato() : QProxyStyle(QStyleFactory::create(QApplication::style()->name())) {}
+    StileScalato() : QProxyStyle(new ProgramStyle) {}
 
     int pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const override {
         const int v = QProxyStyle::pixelMetric(m, o, w);

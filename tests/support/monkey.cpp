@@ -60,8 +60,9 @@ bool Monkey::run(long actions) {
 }
 
 bool Monkey::step() {
-    QJsonObject before;
-    if (engine_) before = execute({{"dump", true}});
+    // The dump after the last action is the screen as it stands: nothing has run since.
+    QJsonObject before = std::exchange(last_, {});
+    if (engine_ && before.isEmpty()) before = execute({{"dump", true}});
     if (!engine_ || before.value(QStringLiteral("ended")).toBool()) {
         if (engine_) ++ended_;
         engine_.reset(); // one program at a time, as in the real world
@@ -74,17 +75,18 @@ bool Monkey::step() {
         before = execute({{"dump", true}});
         if (!check(before)) return false;
     }
-    if (chance(0.08)) {
-        if (!checkAnswer(before)) return false;
-        before = execute({{"dump", true}}); // the answer brought the next question
-    }
+    if (chance(0.08) && !checkAnswer(before)) return false; // before: the next question
     const QJsonObject action = pickAction(before);
-    if (action.isEmpty()) return true;
+    if (action.isEmpty()) {
+        last_ = before;
+        return true;
+    }
     const QJsonObject answer = execute(action);
     if (!answer.value(QStringLiteral("ok")).toBool())
         return fail(QStringLiteral("the driver refused a command: ") +
                     answer.value(QStringLiteral("error")).toString());
-    return check(execute({{"dump", true}}));
+    last_ = execute({{"dump", true}});
+    return check(last_);
 }
 
 bool Monkey::check(const QJsonObject& d) {
@@ -121,8 +123,8 @@ bool Monkey::check(const QJsonObject& d) {
 // The question on a typed-answer screen is answerable: its answer NumeroEsatto (the screen's own,
 // where it keeps one), typed key by key and confirmed with Enter, is judged right. Some screens
 // take it in digits, some in words; which one is learnt on a screen's first question and must hold
-// from then on.
-bool Monkey::checkAnswer(const QJsonObject& d) {
+// from then on. d becomes the screen after the answer.
+bool Monkey::checkAnswer(QJsonObject& d) {
     const QString form = d.value(QStringLiteral("form")).toString();
     const QJsonObject c = d.value(QStringLiteral("controls")).toObject();
     const QJsonObject box = c.value(QStringLiteral("Text1")).toObject();
@@ -146,6 +148,7 @@ bool Monkey::checkAnswer(const QJsonObject& d) {
         if (!check(now)) return false;
         if (global(now, "Esatti") == std::min(esatti + 1, 32767) && global(now, "Errati") == errati) {
             answers_[form] = way;
+            d = now;
             return true;
         }
         if (known != answers_.end()) break;

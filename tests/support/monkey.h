@@ -37,7 +37,7 @@ private:
     QJsonObject execute(const QJsonObject& command);
     bool step();
     bool check(const QJsonObject& dump);
-    bool checkAnswer(const QJsonObject& dump);
+    bool checkAnswer(QJsonObject& dump);
     QJsonObject pickAction(const QJsonObject& dump);
     QString pickControl(const QJsonObject& dump, const QStringList& kinds, bool dragSourceOnly = false);
     QString randomText();
@@ -48,6 +48,7 @@ private:
     std::mt19937 rng_;
     std::vector<QJsonObject> route_;
     std::unique_ptr<DriverEngine> engine_;
+    QJsonObject last_;               // the dump after the last action
     std::deque<QByteArray> recent_;  // the last commands, for the report
     std::map<QString, int> clicks_;  // "Screen/Control": how often it was acted on
     std::map<QString, int> answers_; // which way each screen takes its typed answer: 0 digits, 1 words
