@@ -80,7 +80,8 @@ struct AbacoMember {
     int (*filtro)(int& keyAscii);
 };
 
-const AbacoMember* FindAbacoMember(const QString& form);
+// The three abacus screens, each under its own name.
+FormList AbacusForms();
 
 class AbacoForm : public AbacoScreen {
     Q_OBJECT

@@ -27,12 +27,6 @@ constexpr AbacoOpMember kDifferenze[] = {
     {"Form99d1", 18, false},
 };
 
-template <size_t N> const AbacoOpMember* trova(const AbacoOpMember (&table)[N], const QString& form) {
-    for (const AbacoOpMember& m : table)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
-}
-
 // A red arrow across the button: towards the tens wire, or away from it towards the units.
 QPixmap FrecciaRossa(bool aSinistra) {
     QPixmap pm(32, 32);
@@ -88,12 +82,8 @@ OperazioneAbaco TiraSenzaCambio(Random& rnd) {
     return op;
 }
 
-const AbacoOpMember* FindAbacoSommaMember(const QString& form) {
-    return trova(kSomme, form);
-}
-
-const AbacoOpMember* FindAbacoDifferenzaMember(const QString& form) {
-    return trova(kDifferenze, form);
+FormList AbacusOpForms() {
+    return Join({Members<AbacoSommaForm>(kSomme), Members<AbacoDifferenzaForm>(kDifferenze)});
 }
 
 namespace {

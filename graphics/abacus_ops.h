@@ -31,8 +31,8 @@ struct AbacoOpMember {
     bool cambio; // a second units wire and the "Cambio" button
 };
 
-const AbacoOpMember* FindAbacoSommaMember(const QString& form);
-const AbacoOpMember* FindAbacoDifferenzaMember(const QString& form);
+// The four screens, each under its own name.
+FormList AbacusOpForms();
 
 // What both operations share: the wires, the beads shown from their counts, the counts beside the
 // wires, the result box, the change button and "Ricomincia".

@@ -52,10 +52,8 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const AbacoMember* FindAbacoMember(const QString& form) {
-    for (const AbacoMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList AbacusForms() {
+    return Join({{Screen<Form99a>("Form99a")}, Members<AbacoForm>(kMembers)});
 }
 
 AbacoForm::AbacoForm(Program& program, const AbacoMember& member)

@@ -48,12 +48,6 @@ constexpr std::array kSottrazioni{
     LongsMember{"FormGrafMeno1", 18, false, 120},
 };
 
-template <class Table> const LongsMember* Find(const Table& table, const QString& form) {
-    for (const LongsMember& m : table)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
-}
-
 // The counters, the faces, "Ricomincia" and "avanti" in a column right of the material.
 FrameOptions Opzioni() {
     FrameOptions o;
@@ -69,12 +63,8 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const LongsMember* FindLongsAddMember(const QString& form) {
-    return Find(kAddizioni, form);
-}
-
-const LongsMember* FindLongsSubMember(const QString& form) {
-    return Find(kSottrazioni, form);
+FormList LongsForms() {
+    return Join({Members<LongsAddForm>(kAddizioni), Members<LongsSubForm>(kSottrazioni)});
 }
 
 LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Width, int label3Height,

@@ -35,8 +35,8 @@ struct LongsMember {
     int risultatoTop; // where the result box stands
 };
 
-const LongsMember* FindLongsAddMember(const QString& form);
-const LongsMember* FindLongsSubMember(const QString& form);
+// The four screens, each under its own name.
+FormList LongsForms();
 
 // What the four screens share: the operation, the instruction, the result box, "Ricomincia".
 class LongsForm : public ExerciseForm {

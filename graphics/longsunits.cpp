@@ -209,10 +209,8 @@ constexpr std::array<LongsReaderMember, 2> kReaders = {{
 
 } // namespace
 
-const LongsReaderMember* FindLongsReaderMember(const QString& form) {
-    for (const LongsReaderMember& m : kReaders)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList LongsUnitsForms() {
+    return Join({{Screen<Form999x>("Form999x")}, Members<LongsReaderForm>(kReaders)});
 }
 
 LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& member)

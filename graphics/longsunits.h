@@ -65,7 +65,8 @@ struct LongsReaderMember {
     int (*filtro)(int& keyAscii);
 };
 
-const LongsReaderMember* FindLongsReaderMember(const QString& form);
+// The three screens, each under its own name.
+FormList LongsUnitsForms();
 
 // Form999y, "scrivi il numero in cifre", and Form999z, "scrivi il numero in lettere".
 class LongsReaderForm : public LunghiForm {

@@ -48,10 +48,8 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const NumberLineMember* FindNumberLineMember(const QString& form) {
-    for (const NumberLineMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList NumberLineForms() {
+    return Members<NumberLineForm>(kMembers);
 }
 
 NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)

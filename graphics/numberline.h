@@ -21,7 +21,8 @@ struct NumberLineMember {
     int altoAltre;
 };
 
-const NumberLineMember* FindNumberLineMember(const QString& form);
+// The two screens, each under its own name.
+FormList NumberLineForms();
 
 class NumberLineForm : public ExerciseForm {
     Q_OBJECT

@@ -176,4 +176,8 @@ void Form100Ricon::BottoneAvanti_Click() {
     NuovaDomanda();
 }
 
+FormList TableFindForms() {
+    return {Screen<Form100Trova>("Form100Trova"), Screen<Form100Ricon>("Form100Ricon")};
+}
+
 } // namespace contarello

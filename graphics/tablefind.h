@@ -74,4 +74,7 @@ private:
     TextBox* Text1;
 };
 
+// Form100Trova and Form100Ricon, each under its own name.
+FormList TableFindForms();
+
 } // namespace contarello

@@ -72,10 +72,8 @@ constexpr std::array<TableStepMember, 6> kMembers = {{
 
 } // namespace
 
-const TableStepMember* FindTableStepMember(const QString& form) {
-    for (const TableStepMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList TableStepForms() {
+    return Members<TableStepForm>(kMembers);
 }
 
 TableStepForm::TableStepForm(Program& program, const TableStepMember& member)

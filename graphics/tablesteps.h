@@ -28,7 +28,8 @@ struct TableStepMember {
     DomandaTabella (*draw)(Random& rnd, int n);
 };
 
-const TableStepMember* FindTableStepMember(const QString& form);
+// The six screens, each under its own name.
+FormList TableStepForms();
 
 class TableStepForm : public TabellaForm {
     Q_OBJECT

@@ -38,8 +38,8 @@ struct ColumnMember {
     const char* secondo; // ... and the second
 };
 
-// The member of the four by its screen's name.
-const ColumnMember* FindColumnMember(const QString& form);
+// The four screens, each under its own name.
+FormList ColumnForms();
 
 class ColumnForm : public ExerciseForm {
     Q_OBJECT

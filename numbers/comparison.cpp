@@ -138,4 +138,8 @@ QJsonObject FormSimb::fields() const {
     return {{"QuanteDecine", QuanteDecine}, {"QuanteUnita", QuanteUnita}};
 }
 
+FormList ComparisonForms() {
+    return Join({{Screen<FormMM>("FormMM")}, {Screen<FormSimb>("FormSimb")}});
+}
+
 } // namespace contarello

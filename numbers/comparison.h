@@ -51,4 +51,7 @@ private:
     int16_t QuanteUnita = 0;
 };
 
+// FormMM and FormSimb, each under its own name.
+FormList ComparisonForms();
+
 } // namespace contarello

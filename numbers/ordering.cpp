@@ -177,4 +177,8 @@ QJsonObject FormOrd::fields() const {
             {"DalMinore", DalMinore}};
 }
 
+FormList OrderingForms() {
+    return {Screen<FormOrd>("FormOrd")};
+}
+
 } // namespace contarello

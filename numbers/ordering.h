@@ -3,8 +3,8 @@
 // column, the order judged as a whole once the last one is placed. The task stands in the title
 // bar, the one screen of the program that has one.
 
-#include "shell/exercise.h"
 #include "core/globals.h"
+#include "shell/exercise.h"
 
 #include <array>
 #include <memory>
@@ -51,5 +51,8 @@ private:
     int16_t Scelti = 0;
     int16_t DalMinore = True;
 };
+
+// FormOrd under its name.
+FormList OrderingForms();
 
 } // namespace contarello

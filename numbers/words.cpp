@@ -51,10 +51,8 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const WordsMember* FindWordsMember(const QString& form) {
-    for (const WordsMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList WordsForms() {
+    return Members<WordsForm>(kMembers);
 }
 
 WordsForm::WordsForm(Program& program, const WordsMember& member)

@@ -22,7 +22,8 @@ struct WordsMember {
     int (*filtro)(int& keyAscii);
 };
 
-const WordsMember* FindWordsMember(const QString& form);
+// The two screens, each under its own name.
+FormList WordsForms();
 
 class WordsForm : public QuestionForm {
     Q_OBJECT

@@ -2,6 +2,7 @@
 // A screen: its window, its menu bar, its named controls in twips, and the way to the next screen.
 
 #include "shell/controls.h"
+#include "shell/navigator.h"
 
 namespace contarello {
 

@@ -186,4 +186,8 @@ void formSt99b::Genera8Numeri() {
     }
 }
 
+FormList AbacoSheetForms() {
+    return {Screen<formSt99a>("formSt99a"), Screen<formSt99b>("formSt99b")};
+}
+
 } // namespace contarello

@@ -138,4 +138,8 @@ void formStampa4::Genera8Numeri() {
     }
 }
 
+FormList LongsSheetForms() {
+    return {Screen<formStampa1>("formStampa1"), Screen<formStampa4>("formStampa4")};
+}
+
 } // namespace contarello

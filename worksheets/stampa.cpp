@@ -153,4 +153,8 @@ QJsonObject formStampa::fields() const {
             {QStringLiteral("GrandezzaCarattere"), GrandezzaCarattere}};
 }
 
+FormList StampaForms() {
+    return {Screen<formStampa>("formStampa")};
+}
+
 } // namespace contarello
