@@ -56,8 +56,9 @@ QString Parola(int numero, Modulo1& g) {
 }
 
 // The menu bar the three screens share; only the blanks after "Azzera conteggio" differ.
-FrameOptions Opzioni(const char* azzera, const char* scheda, FrameLayout layout) {
+FrameOptions Opzioni(const char* azzera, const char* scheda, FrameLayout layout, SetUp setUp) {
     FrameOptions o;
+    o.setUp = setUp;
     o.captions = {azzera, "Stampa scheda        ", "Informazioni          "};
     o.scheda = scheda;
     o.layout = layout;
@@ -121,7 +122,8 @@ constexpr AbacoGeometria kForm99a{2565, 1575, 6015, 4305, 1680, 6120, 5670, 5730
 } // namespace
 
 Form99a::Form99a(Program& program)
-    : AbacoScreen(program, kLargo99a, 8040, Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout()),
+    : AbacoScreen(program, kLargo99a, 8040,
+                  Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout(), SetUp::OnLoad),
                   kForm99a) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 1035, 1020, 4800, 480, Arial(18));
     EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
@@ -154,6 +156,7 @@ Form99a::Form99a(Program& program)
     BottoneConferma = button(QStringLiteral("BottoneConferma"), QStringLiteral("Conferma"), kColonna, 3300,
                              1575, 1215, Arial(12));
     BottoneConferma->setPicture(Spunta());
+    RispondeCon(BottoneConferma);
     BottoneConferma->Click = [this] { BottoneConferma_Click(); };
 
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuMassimo"), QStringLiteral("Numero massimo        "),
@@ -178,13 +181,8 @@ QJsonObject Form99a::fields() const {
     return f;
 }
 
-// All of the set-up is here: a return from the worksheet finds the question as it was left.
-void Form99a::Load() {
-    ExerciseForm::Load();
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
+void Form99a::Prepara() {
     NumeroUnita = NumeroDecine = InCifre = 0;
-    NuovaDomanda();
 }
 
 void Form99a::NuovaDomanda() {
@@ -209,19 +207,9 @@ void Form99a::Infila(ControlArray<Shape>& filo, int16_t& quante, int button) {
     }
 }
 
+// After a wrong answer the beads and the question stay, for the child to put right.
 void Form99a::BottoneConferma_Click() {
-    if (NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto) {
-        RispostaEsattaPoiAvanti([this] { BottoneConferma->setEnabled(false); });
-    } else {
-        // The beads and the question stay, for the child to put right.
-        RispostaErrata();
-    }
-}
-
-void Form99a::BottoneAvanti_Click() {
-    BottoneConferma->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    Rispondi(NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto);
 }
 
 } // namespace contarello

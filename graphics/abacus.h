@@ -42,12 +42,13 @@ class Form99a : public AbacoScreen {
     Q_OBJECT
 public:
     explicit Form99a(Program& app);
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
+    // All of the set-up is done as the screen loads: a return from the worksheet finds the question
+    // as it was left.
+    void Prepara() override;
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
     // A left button threads a bead on the wire, any other takes the last one off.
@@ -87,16 +88,13 @@ class AbacoForm : public AbacoScreen {
     Q_OBJECT
 public:
     AbacoForm(Program& app, const AbacoMember& member);
-    void Load() override;
-    void Activate() override;
 
 protected:
+    void Prepara() override;
+    // Each return to the screen brings a new number.
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
-    void Rispondi();
-
     const AbacoMember& member_;
     Label* Label3;
     TextBox* TestoNumero;

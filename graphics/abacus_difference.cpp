@@ -109,23 +109,9 @@ void AbacoDifferenzaForm::BottoneCambio_Click() {
     MostraPalline();
 }
 
-void AbacoDifferenzaForm::Text1_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Text1->Text()) == g.Termine1)
-        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
-    else
-        RispostaErrata();
-}
-
 void AbacoDifferenzaForm::Ricomincia() {
     AzzeraAbaco();
     Consegna();
-}
-
-void AbacoDifferenzaForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 } // namespace contarello

@@ -91,6 +91,7 @@ FrameOptions Opzioni(FrameLayout layout) {
     FrameOptions o;
     o.captions = kMenuLargo;
     o.layout = layout;
+    o.setUp = SetUp::OnLoad;
     return o;
 }
 } // namespace
@@ -104,10 +105,11 @@ void AbacoOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 120, 120, larghezzaDomanda, 615,
                             SansSerif(18, true));
     EtichettaNumero->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    Text1 = textBox(QStringLiteral("Text1"), leftRisultato, 120, 1335, 615, Arial(18));
-    Text1->setAlignment(Qt::AlignCenter);
+    // Enter alone answers: an empty box reads as 0.
+    Text1 = CasellaRisposta(QStringLiteral("Text1"), {leftRisultato, 120, 1335, 615}, Arial(18),
+                            [this](const QString& testo) { return Val(testo) == RispostaAttesa(); },
+                            {.ancheVuota = true});
     Text1->setVisible(false);
-    Text1->KeyUp = [this](int keyCode, int) { Text1_KeyUp(keyCode); };
 }
 
 void AbacoOpForm::CreaAbaco(const Geometria& geo) {
@@ -154,13 +156,6 @@ void AbacoOpForm::CreaAbaco(const Geometria& geo) {
         BottoneCambio->setPicture(FrecciaRossa(geo.frecciaASinistra));
         BottoneCambio->Click = [this] { BottoneCambio_Click(); };
     }
-}
-
-void AbacoOpForm::Load() {
-    ExerciseForm::Load();
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
-    NuovaDomanda();
 }
 
 QJsonObject AbacoOpForm::fields() const {

@@ -42,7 +42,6 @@ public:
     AbacoOpForm(Program& app, const AbacoOpMember& member, int widthTwips, int heightTwips,
                 FrameLayout layout);
 
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
@@ -73,7 +72,6 @@ protected:
 
     virtual void Controlla() = 0;
     virtual void BottoneCambio_Click() = 0;
-    virtual void Text1_KeyUp(int keyCode) = 0;
     // The number the result box expects: the sum, or what is left.
     virtual int RispostaAttesa() const = 0;
 
@@ -103,10 +101,8 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override { NuovaDomanda(); }
     void Controlla() override;
     void BottoneCambio_Click() override;
-    void Text1_KeyUp(int keyCode) override;
     int RispostaAttesa() const override { return g.Meta; }
 
 private:
@@ -122,10 +118,8 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
     void Controlla() override;
     void BottoneCambio_Click() override;
-    void Text1_KeyUp(int keyCode) override;
     int RispostaAttesa() const override { return g.Termine1; }
 
 private:

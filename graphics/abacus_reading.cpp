@@ -61,34 +61,18 @@ AbacoForm::AbacoForm(Program& program, const AbacoMember& member)
     Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 240, 5280, 3855, 375,
                    Arial(12));
     Label3->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    TestoNumero = textBox(QStringLiteral("TestoNumero"), 4215, 5160, 4800, 615, Arial(18));
-    TestoNumero->setAlignment(Qt::AlignCenter);
-    if (member.filtro) TestoNumero->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
-    if (member.invioAlRilascio) {
-        TestoNumero->KeyUp = [this](int keyCode, int) {
-            if (keyCode == 13 && !TestoNumero->Text().isEmpty()) Rispondi();
-        };
-    } else {
-        // Every press counts, the repeats of a held key too; an empty box is read as 0.
-        TestoNumero->KeyPress = [this](int& keyAscii) {
-            if (keyAscii == 13) Rispondi();
-        };
-    }
+    // A wrong text stays in the box, for the child to put right.
+    TestoNumero =
+        CasellaRisposta(QStringLiteral("TestoNumero"), {4215, 5160, 4800, 615}, Arial(18),
+                        [this](const QString& testo) { return member_.giusta(testo, g.NumeroEsatto, g); },
+                        {.alRilascio = member.invioAlRilascio, .filtro = member.filtro});
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuMassimo"), QStringLiteral("Numero massimo        "),
                                  mnuStampa);
 }
 
-void AbacoForm::Load() {
-    ExerciseForm::Load();
+void AbacoForm::Prepara() {
     if (member_.randomize) app.rnd.Randomize();
-    AzzeraConteggio();
     NumeroUnita = NumeroDecine = 0;
-}
-
-// Each return to the screen brings a new number.
-void AbacoForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    NuovaDomanda();
 }
 
 void AbacoForm::NuovaDomanda() {
@@ -103,22 +87,6 @@ void AbacoForm::NuovaDomanda() {
     MostraPalline(pal_da, NumeroDecine);
     MostraPalline(pal_u, NumeroUnita);
     if (TestoNumero->isEnabled()) TestoNumero->SetFocus();
-}
-
-void AbacoForm::Rispondi() {
-    if (member_.giusta(TestoNumero->Text(), g.NumeroEsatto, g)) {
-        RispostaEsattaPoiAvanti([this] { TestoNumero->setEnabled(false); });
-    } else {
-        // The text stays in the box, for the child to put right.
-        RispostaErrata();
-        if (TestoNumero->isEnabled()) TestoNumero->SetFocus();
-    }
-}
-
-void AbacoForm::BottoneAvanti_Click() {
-    TestoNumero->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 } // namespace contarello

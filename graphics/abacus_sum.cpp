@@ -113,14 +113,6 @@ void AbacoSommaForm::BottoneCambio_Click() {
     Controlla();
 }
 
-void AbacoSommaForm::Text1_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Text1->Text()) == g.Meta)
-        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
-    else
-        RispostaErrata();
-}
-
 void AbacoSommaForm::Ricomincia() {
     Text1->setEnabled(true);
     AzzeraAbaco();

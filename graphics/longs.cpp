@@ -58,6 +58,7 @@ FrameOptions Opzioni() {
     o.layout.errati = {8520, 2040, 1095, 495};
     o.layout.facce = {8160, 2640, 855, 750};
     o.layout.avanti = {7680, 4800, 1575, 1215};
+    o.avvisoErrata = "Controlla esattamente il risultato";
     return o;
 }
 
@@ -71,11 +72,12 @@ LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Widt
                      int risultatoHeight)
     : ExerciseForm(program, Variante::B, member.numeroScheda, 9840, 6360, Opzioni()), member_(member) {
     EtNumero = label(QStringLiteral("EtNumero"), QString(), 360, 240, 2655, 735, Arial(24));
-    Risultato =
-        textBox(QStringLiteral("Risultato"), 3120, member.risultatoTop, 1455, risultatoHeight, Arial(24));
-    Risultato->setAlignment(Qt::AlignCenter);
+    // Only the typed result counts. Only Enter judges; what stands in the box is read as a number, so
+    // an empty box or letters are 0.
+    Risultato = CasellaRisposta(
+        QStringLiteral("Risultato"), {3120, member.risultatoTop, 1455, risultatoHeight}, Arial(24),
+        [this](const QString& testo) { return Val(testo) == RisultatoAtteso(); }, {.ancheVuota = true});
     Risultato->setVisible(false);
-    Risultato->KeyUp = [this](int keyCode, int) { Risultato_KeyUp(keyCode); };
 
     Label3 = label(QStringLiteral("Label3"), QString(), 5040, 120, label3Width, label3Height, Arial(12));
     Label3->setBackColor(QColor(0x00, 0xff, 0xff));
@@ -104,22 +106,6 @@ CommandButton* LongsForm::BottoneMateriale(const char* name, const char* caption
     return b;
 }
 
-void LongsForm::Load() {
-    ExerciseForm::Load();
-    AzzeraConteggio();
-}
-
-void LongsForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    NuovaDomanda();
-}
-
-void LongsForm::BottoneAvanti_Click() {
-    Risultato->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
-}
-
 void LongsForm::EstraiOperazione() {
     const Operazione o =
         member_.cambio ? OperazioneLibera(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
@@ -133,18 +119,6 @@ void LongsForm::InRisultato() {
     Risultato->setVisible(true);
     Risultato->setText(QString());
     if (Risultato->isEnabled()) Risultato->SetFocus();
-}
-
-// Only Enter judges; what stands in the box is read as a number, so an empty box or letters are 0.
-void LongsForm::Risultato_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Risultato->Text()) == RisultatoAtteso()) {
-        RispostaEsattaPoiAvanti([this] { Risultato->setEnabled(false); });
-        return;
-    }
-    RispostaErrata();
-    app.dialogs.MsgBox(QStringLiteral("Controlla esattamente il risultato"), vbCritical, kTitolo);
-    SuonoErrato(app);
 }
 
 } // namespace contarello

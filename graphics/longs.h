@@ -45,11 +45,7 @@ public:
     LongsForm(Program& app, const LongsMember& member, int label3Width, int label3Height,
               int risultatoHeight);
 
-    void Load() override;
-    void Activate() override;
-
 protected:
-    void BottoneAvanti_Click() override;
     virtual void BottoneRicomincia_Click() = 0;
     // The number the typed result must be.
     virtual int16_t RisultatoAtteso() const = 0;
@@ -68,9 +64,6 @@ protected:
     TextBox* Risultato;
     Label* Label3;
     CommandButton* BottoneRicomincia;
-
-private:
-    void Risultato_KeyUp(int keyCode);
 };
 
 // Addition: two rows, one for each addend, and a strip between them where the change puts its long.

@@ -24,6 +24,9 @@ FrameOptions Opzioni(const char* scheda, const FrameLayout& layout) {
     o.captions = MenuCaptions{"Azzera conteggio        ", "Stampa scheda        ", "Informazioni          "};
     o.scheda = scheda;
     o.limiteA99 = true;
+    // The limit panel chooses 99, with a question of its own; the counters then start at 0 and the
+    // question the child sees is drawn last.
+    o.setUp = SetUp::OnLoad;
     o.layout = layout;
     return o;
 }
@@ -79,15 +82,6 @@ LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, 
     }
 }
 
-void LunghiForm::Load() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    // The limit panel chooses 99, with a question of its own; the counters then start at 0 and the
-    // question the child sees is drawn last.
-    ExerciseForm::Load();
-    AzzeraConteggio();
-    NuovaDomanda();
-}
-
 void LunghiForm::NascondiDisegno() {
     for (int i = 0; i < kRighe; ++i) {
         Decine(i)->setVisible(false);
@@ -119,6 +113,7 @@ Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 7
     BottoneConferma = button(QStringLiteral("BottoneConferma"), QStringLiteral("Conferma"), x, 3750, largo,
                              1095, Arial(12));
     BottoneConferma->setPicture(pictures::FacciaSorridente());
+    RispondeCon(BottoneConferma);
 
     MenuNumero = menu(QStringLiteral("MenuNumero"), QStringLiteral("Numero in        "), nullptr, mnuStampa);
     MenuParola = menu(QStringLiteral("MenuParola"), QStringLiteral("Parola"), MenuNumero);
@@ -175,17 +170,7 @@ void Form999x::BottoneRicomincia_Click() {
 
 // Every press is one answer; a wrong one leaves the drawing to be mended.
 void Form999x::BottoneConferma_Click() {
-    if (NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto) {
-        RispostaEsattaPoiAvanti([this] { BottoneConferma->setEnabled(false); });
-    } else {
-        RispostaErrata();
-    }
-}
-
-void Form999x::BottoneAvanti_Click() {
-    BottoneConferma->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    Rispondi(NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto);
 }
 
 // ---- Form999y, Form999z ----
@@ -219,18 +204,13 @@ LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& memb
                    Arial(12));
     Label3->setAlignment(Qt::AlignCenter);
     const bool grande = member.fontTesto > 20;
-    Text1 = textBox(QStringLiteral("Text1"), grande ? 6840 : 6120, 2700, grande ? 3600 : 5040,
-                    grande ? 855 : 495, Arial(member.fontTesto));
-    Text1->setAlignment(Qt::AlignCenter);
-    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
-    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+    // Enter released on a box that isn't empty is one answer; held down, it is released once.
+    Text1 = CasellaRisposta(QStringLiteral("Text1"),
+                            {grande ? 6840 : 6120, 2700, grande ? 3600 : 5040, grande ? 855 : 495},
+                            Arial(member.fontTesto),
+                            [this](const QString& testo) { return member_.giusta(testo, g.NumeroEsatto, g); },
+                            {.filtro = member.filtro});
     CorniceNumeroMassimo->raise();
-}
-
-void LongsReaderForm::Load() {
-    LunghiForm::Load();
-    // The box is ready for the first key, as it is the first control of the screen.
-    Text1->SetFocus();
 }
 
 void LongsReaderForm::NuovaDomanda() {
@@ -244,23 +224,6 @@ void LongsReaderForm::NuovaDomanda() {
         Decine(i)->setVisible(true);
     for (int i = 0; i < NumeroUnita && i < kRighe; ++i)
         Unita(i)->setVisible(true);
-}
-
-// Enter released on a box that isn't empty is one answer; held down, it is released once.
-void LongsReaderForm::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13 || Text1->Text().isEmpty()) return;
-    if (member_.giusta(Text1->Text(), g.NumeroEsatto, g)) {
-        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
-    } else {
-        RispostaErrata();
-    }
-    if (Text1->isEnabled()) Text1->SetFocus();
-}
-
-void LongsReaderForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 } // namespace contarello

@@ -12,7 +12,6 @@ namespace contarello {
 class LunghiForm : public ExerciseForm {
     Q_OBJECT
 public:
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
@@ -36,7 +35,6 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
     void BottoneDecine_Click();
@@ -74,15 +72,12 @@ class LongsReaderForm : public LunghiForm {
 public:
     LongsReaderForm(Program& app, const LongsReaderMember& member);
 
-    void Load() override;
-
 protected:
+    // The box is ready for the first key, as it is the first control of the screen.
+    void Prepara() override { Text1->SetFocus(); }
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
-    void Text1_KeyUp(int keyCode, int shift);
-
     const LongsReaderMember& member_;
     TextBox* Text1;
     Label* Label3;

@@ -37,6 +37,8 @@ FrameOptions Opzioni() {
     FrameOptions o;
     o.captions = kMenuLargo;
     o.stampaScheda = false;
+    // Everything is set up at each activation: coming back to the screen starts the counts afresh.
+    o.setUp = SetUp::OnActivate;
     // The faces stand above the line, between the two counters.
     o.layout.facce = {3255, 315, 855, 750};
     o.layout.label1 = {360, 480, 1095, 375};
@@ -70,17 +72,12 @@ NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)
         l->setVisible(false);
         Label3.set(i, l);
     }
-    Text1 = textBox(QStringLiteral("Text1"), 3255, 4620, 2955, 1065, Arial(24));
-    Text1->setAlignment(Qt::AlignCenter);
-    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
-}
-
-// Everything is set up at each activation: coming back to the screen starts the counts afresh.
-void NumberLineForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
-    NumeroRisposte = 0;
-    NuovaDomanda();
+    // Enter alone answers, an empty box too: its number is the tick's own, not a count from the left.
+    // A wrong answer leaves the red tick and the text, for the child to put right.
+    Text1 = CasellaRisposta(
+        QStringLiteral("Text1"), {3255, 4620, 2955, 1065}, Arial(24),
+        [this](const QString& testo) { return Val(testo) == double(NumeroIniziale + TaccaScelta); },
+        {.ancheVuota = true});
 }
 
 void NumberLineForm::NuovaDomanda() {
@@ -137,32 +134,10 @@ void NumberLineForm::ScriviNumero(int tacca) {
     l->setVisible(true);
 }
 
-// Enter alone answers, an empty box too: its number is the tick's own, not a count from the left.
-void NumberLineForm::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13) return;
-    if (Val(Text1->Text()) == double(NumeroIniziale + TaccaScelta)) {
-        ScriviNumero(TaccaScelta);
-        RispostaEsatta();
-        ++NumeroRisposte;
-        if (NumeroRisposte != kRisposteLinea) {
-            ColoraLinea();
-        } else if (BottoneAvanti->Visible()) {
-            BottoneAvanti->setEnabled(true);
-            Text1->setEnabled(false);
-        } else {
-            NuovaDomanda();
-        }
-    } else {
-        // The red tick and the text stay, for the child to put right.
-        RispostaErrata();
-        if (Text1->isEnabled()) Text1->SetFocus();
-    }
-}
-
-void NumberLineForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+bool NumberLineForm::ContinuaDomanda() {
+    if (++NumeroRisposte == kRisposteLinea) return false;
+    ColoraLinea();
+    return true;
 }
 
 QJsonObject NumberLineForm::fields() const {

@@ -33,18 +33,19 @@ public:
 
     NumberLineForm(Program& app, const NumberLineMember& member);
 
-    void Activate() override;
     QJsonObject fields() const override;
 
 protected:
     // A fresh line: its first number, its written ticks, and the first tick to name.
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
+    // The tick named gets its number written.
+    void Esatta() override { ScriviNumero(TaccaScelta); }
+    // The line goes on to its next tick until five are named.
+    bool ContinuaDomanda() override;
 
 private:
     // Chooses a tick not yet red and marks it: the one the child names next.
     void ColoraLinea();
-    void Text1_KeyUp(int keyCode, int shift);
     bool Segnata(int tacca) const;
     // Writes the tick's number above it, the digits centred on the tick.
     void ScriviNumero(int tacca);

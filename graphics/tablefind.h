@@ -13,12 +13,12 @@ public:
     // facile: whether the screen offers the level that shows the whole table.
     TabellaLivelliForm(Program& app, const char* scheda, bool facile);
 
-    // A new start each time the screen comes up, back from the worksheet included: counters, the
-    // round of ten and the red cells all go, so what the child sees matches the counters.
-    void Activate() override;
     QJsonObject fields() const override;
 
 protected:
+    // A new start each time the screen comes up, back from the worksheet included: counters, the
+    // round of ten and the red cells all go, so what the child sees matches the counters.
+    void Prepara() override;
     // Writes the captions by the level checked: all, the first row and column, or none.
     virtual void RiempiTabella();
     // A new round of ten: every cell green again, its caption by the level.
@@ -49,8 +49,10 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
     void Numero_Click(int i) override;
+    void Esatta() override;
+    void InAttesa() override;
+    void Riprendi() override;
     void Riapri() override;
 
 private:
@@ -64,13 +66,11 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
+    void Esatta() override;
     void RiempiTabella() override;
     void Riapri() override;
 
 private:
-    void Text1_KeyUp(int keyCode, int shift);
-
     TextBox* Text1;
 };
 

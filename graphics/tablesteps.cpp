@@ -77,7 +77,13 @@ FormList TableStepForms() {
 }
 
 TableStepForm::TableStepForm(Program& program, const TableStepMember& member)
-    : TabellaForm(program, member.numeroScheda), member_(member) {
+    : TabellaForm(program, member.numeroScheda,
+                  [&member] {
+                      FrameOptions o;
+                      o.setUp = member.suLoad ? SetUp::OnLoad : SetUp::OnActivate;
+                      return o;
+                  }()),
+      member_(member) {
     constexpr int x = ColonnaTabella::left, w = ColonnaTabella::width;
     if (member.consegna) {
         Label3 =
@@ -89,24 +95,12 @@ TableStepForm::TableStepForm(Program& program, const TableStepMember& member)
     EtichettaNumero->setAlignment(Qt::AlignCenter);
 }
 
-void TableStepForm::Load() {
-    ExerciseForm::Load();
-    if (member_.suLoad) Imposta();
-}
-
-void TableStepForm::Activate() {
-    if (!member_.suLoad) Imposta();
-}
-
-void TableStepForm::Imposta() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
+void TableStepForm::Prepara() {
     // Coming back to a screen that was waiting for "avanti": the new question starts a new round,
     // so the cell greyed by the old one is a cell like the others again.
     BottoneAvanti->setEnabled(false);
     AbilitaTutte();
-    AzzeraConteggio();
     ScriviTutti();
-    NuovaDomanda();
 }
 
 void TableStepForm::NuovaDomanda() {
@@ -120,21 +114,13 @@ void TableStepForm::NuovaDomanda() {
 }
 
 void TableStepForm::Numero_Click(int i) {
-    if (i != esatto_) {
-        RispostaErrata();
-        return;
-    }
-    RispostaEsattaPoiAvanti([this] {
-        // The question stands complete, and its cell greyed as the answer.
-        EtichettaNumero->setCaption(EtichettaNumero->Caption() + Numero(esatto_)->Caption());
-        Numero(esatto_)->setEnabled(false);
-    });
+    Rispondi(i == esatto_);
 }
 
-void TableStepForm::BottoneAvanti_Click() {
-    Numero(esatto_)->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+// The question stands complete, and its cell greyed as the answer.
+void TableStepForm::InAttesa() {
+    EtichettaNumero->setCaption(EtichettaNumero->Caption() + Numero(esatto_)->Caption());
+    Numero(esatto_)->setEnabled(false);
 }
 
 QJsonObject TableStepForm::fields() const {

@@ -108,9 +108,8 @@ FormAddizione::FormAddizione(Program& program, const ColumnMember& member)
     if (member.cambio) CreaCambio(5160, 3840, 4320, 780);
 }
 
-void FormAddizione::Load() {
+void FormAddizione::Prepara() {
     app.rnd.Randomize();
-    ColumnForm::Load();
 }
 
 QString FormAddizione::TestoUnita() const {

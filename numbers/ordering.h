@@ -16,19 +16,17 @@ class FormOrd : public ExerciseForm {
 public:
     explicit FormOrd(Program& app);
 
-    // Everything is set up here and nothing in Activate: coming back from the worksheet keeps the
-    // question the child was ordering.
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
+    // Everything is set up as the screen loads and nothing as it comes up: coming back from the
+    // worksheet keeps the question the child was ordering.
+    void Prepara() override;
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
     void ComandoNumero_Click(int k);
     void ControllaOrdine();
-    void OrdineSbagliato();
     // The same numbers back on their buttons and the second column emptied.
     void RimettiNumeri();
     void Option3D1_Click(int i);

@@ -56,20 +56,19 @@ FormList WordsForms() {
 }
 
 WordsForm::WordsForm(Program& program, const WordsMember& member)
-    : QuestionForm(program, Variante::D, 1, Aspetto(member), Opzioni()), member_(member) {
+    : QuestionForm(program, Variante::D, 1, Aspetto(member), Opzioni(), {.filtro = member.filtro}),
+      member_(member) {
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuNumeroMassimo"),
                                  QStringLiteral("Numero Massimo          "), mnuStampa);
 
     Consegna(QString::fromLatin1(member.consegna));
     Label3->setAlignment(Qt::AlignCenter);
-    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
     // The limit panel lies over all the rest.
     CorniceNumeroMassimo->raise();
 }
 
-void WordsForm::Load() {
+void WordsForm::Prepara() {
     if (member_.randomize) app.rnd.Randomize();
-    QuestionForm::Load();
 }
 
 void WordsForm::NuovaDomanda() {

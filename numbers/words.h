@@ -30,9 +30,8 @@ class WordsForm : public QuestionForm {
 public:
     WordsForm(Program& app, const WordsMember& member);
 
-    void Load() override;
-
 protected:
+    void Prepara() override;
     void NuovaDomanda() override;
     bool RispostaGiusta() override;
     // The question stays as it is while the screen waits: a word and its digits side by side would
