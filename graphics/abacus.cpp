@@ -11,12 +11,10 @@ namespace contarello {
 
 namespace {
 
-constexpr int kPasso = 420;            // from one bead to the next one up
-constexpr int kLargoDecine = 540;      // the box of a tens bead; the bead is the circle inside
-constexpr int kLargoUnita = 435;       // the box of a units bead
-constexpr int kAltoPallina = 435;      // both beads are this round
-const QColor kRosso(0xff, 0x00, 0x00); // tens
-const QColor kBlu(0x00, 0x00, 0xff);   // units
+constexpr int kPasso = 420;       // from one bead to the next one up
+constexpr int kLargoDecine = 540; // the box of a tens bead; the bead is the circle inside
+constexpr int kLargoUnita = 435;  // the box of a units bead
+constexpr int kAltoPallina = 435; // both beads are this round
 
 // A solid bead with a darker edge, so that two touching beads still read as two.
 Shape* Pallina(Shape* s, QColor colore) {
@@ -48,11 +46,6 @@ QPixmap Spunta() {
     p.setBrush(Qt::NoBrush);
     p.drawPath(segno);
     return pm;
-}
-
-QString Parola(int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return NumeroInParole(n, g);
 }
 
 // The menu bar the three screens share; only the blanks after "Azzera conteggio" differ.
@@ -126,7 +119,7 @@ Form99a::Form99a(Program& program)
                   Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout(), SetUp::OnLoad),
                   kForm99a) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 1035, 1020, 4800, 480, Arial(18));
-    EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
+    EtichettaNumero->setBackColor(kCiano);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
 
     // Under each wire its button; only a mouse button acts on them, so they take no focus.
@@ -191,7 +184,7 @@ void Form99a::NuovaDomanda() {
     NascondiPalline();
     g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
     EtichettaNumero->setCaption(InCifre != 0 ? Str(g.NumeroEsatto) + QStringLiteral("    ")
-                                             : Parola(g.NumeroEsatto, g));
+                                             : InParole(g.NumeroEsatto, g));
 }
 
 void Form99a::Infila(ControlArray<Shape>& filo, int16_t& quante, int button) {

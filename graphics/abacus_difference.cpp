@@ -70,8 +70,8 @@ void AbacoDifferenzaForm::NuovaDomanda() {
     CaricaColori();
     Text1->setVisible(false);
     AzzeraAbaco();
-    const OperazioneAbaco op =
-        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : TiraSenzaCambio(app.rnd);
+    const Operazione op =
+        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
     g.Meta = op.Meta;
     g.Termine1 = op.Termine1;
     g.Termine2 = op.Termine2;

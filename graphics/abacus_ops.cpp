@@ -11,13 +11,6 @@ namespace contarello {
 
 namespace {
 
-// A draw that came out unfit is drawn again, but never without end: a generator stuck on unfit
-// values must not freeze the screen. Past this many attempts the nearest fit value is taken.
-constexpr int kTentativi = 20;
-
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-
 constexpr AbacoOpMember kSomme[] = {
     {"Form99c", 15, true},
     {"Form99c1", 16, false},
@@ -50,37 +43,6 @@ QPixmap FrecciaRossa(bool aSinistra) {
 }
 
 } // namespace
-
-OperazioneAbaco TiraConCambio(Random& rnd, int numeroMassimo) {
-    OperazioneAbaco op;
-    // Under a limit of 21 the sum would fall below 10; the smallest sum stands in for it.
-    op.Meta = int16_t(Draw(rnd, std::max(numeroMassimo - 11, 1), 10));
-    op.Termine1 = int16_t(Draw(rnd, op.Meta - 10, 5));
-    op.Termine2 = int16_t(op.Meta - op.Termine1);
-    return op;
-}
-
-OperazioneAbaco TiraSenzaCambio(Random& rnd) {
-    // A Termine1 above 0 with no digit above Meta's needs a digit of Meta of 2 or more: 0, 1, 10 and
-    // 11 have none, and are drawn again.
-    int D = 2, U = 5;
-    for (int i = 0; i < kTentativi; ++i) {
-        const int d = Draw(rnd, 10), u = Draw(rnd, 10);
-        if (d >= 2 || u >= 2) {
-            D = d;
-            U = u;
-            break;
-        }
-    }
-    OperazioneAbaco op;
-    op.Meta = int16_t(10 * D + U);
-    op.Termine1 = 0;
-    for (int i = 0; i < kTentativi && op.Termine1 == 0; ++i)
-        op.Termine1 = int16_t(10 * Draw(rnd, D) + Draw(rnd, U));
-    if (op.Termine1 == 0) op.Termine1 = int16_t(D >= 2 ? 10 * (D - 1) : U - 1);
-    op.Termine2 = int16_t(op.Meta - op.Termine1);
-    return op;
-}
 
 FormList AbacusOpForms() {
     return Join({Members<AbacoSommaForm>(kSomme), Members<AbacoDifferenzaForm>(kDifferenze)});

@@ -4,26 +4,11 @@
 // the numbers ask for it, and writes the result. Four screens, two operations, each with and
 // without the change.
 
+#include "core/draws.h"
 #include "core/globals.h"
 #include "shell/exercise.h"
 
 namespace contarello {
-
-class Random;
-
-// The numbers of one operation: the sum or the first number of a subtraction, and its two parts.
-struct OperazioneAbaco {
-    int16_t Meta = 0;
-    int16_t Termine1 = 0;
-    int16_t Termine2 = 0;
-};
-
-// The draw of the screens with the change: Meta from 10 to the limit less 2, Termine1 from 5 to
-// Meta less 6. The units are free, so a change is due only on some questions.
-OperazioneAbaco TiraConCambio(Random& rnd, int numeroMassimo);
-// The draw of the screens without it: every digit of Termine1 at most that of Meta, neither number 0,
-// so the units never pass 9 in an addition and never run short in a subtraction.
-OperazioneAbaco TiraSenzaCambio(Random& rnd);
 
 struct AbacoOpMember {
     const char* form;

@@ -18,8 +18,7 @@ bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
 
 // One spelling per number, in capitals and with no accent; blanks around it are forgiven.
 bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return Trim(testo) == NumeroInParole(n, g);
+    return Trim(testo) == InParole(numero, g);
 }
 
 constexpr std::array<AbacoMember, 2> kMembers = {{

@@ -68,8 +68,8 @@ void AbacoSommaForm::NuovaDomanda() {
     BottoneAvanti->setEnabled(false);
     CaricaColori();
     AzzeraAbaco();
-    const OperazioneAbaco op =
-        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : TiraSenzaCambio(app.rnd);
+    const Operazione op =
+        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
     g.Meta = op.Meta;
     g.Termine1 = op.Termine1;
     g.Termine2 = op.Termine2;

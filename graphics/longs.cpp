@@ -7,36 +7,6 @@
 
 namespace contarello {
 
-Operazione OperazioneLibera(Random& rnd, int numeroMassimo) {
-    Operazione o;
-    o.Meta = int16_t(Draw(rnd, numeroMassimo - 20, 20));
-    o.Termine1 = int16_t(Draw(rnd, o.Meta - 10, 5));
-    o.Termine2 = int16_t(o.Meta - o.Termine1);
-    return o;
-}
-
-namespace {
-// Tries of each of the two draws. An unfit draw comes at worst one time in two, so these many in a
-// row only come from a random source that has stopped being random.
-constexpr int kProve = 64;
-} // namespace
-
-Operazione OperazioneSenzaCambio(Random& rnd) {
-    for (int provaMeta = 0; provaMeta < kProve; ++provaMeta) {
-        const int D = Draw(rnd, 10), U = Draw(rnd, 10);
-        // 0 is no operation; 1, 10 and 11 have digits of 0 and 1 only, so no first number other
-        // than 0 fits under them.
-        if (D <= 1 && U <= 1) continue;
-        for (int prova = 0; prova < kProve; ++prova) {
-            const int d = Draw(rnd, D), u = Draw(rnd, U);
-            if (10 * d + u == 0) continue;
-            const int16_t meta = int16_t(10 * D + U), termine1 = int16_t(10 * d + u);
-            return {meta, termine1, int16_t(meta - termine1)};
-        }
-    }
-    return kOperazioneDiRiserva;
-}
-
 namespace {
 
 constexpr std::array kAddizioni{
@@ -80,7 +50,7 @@ LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Widt
     Risultato->setVisible(false);
 
     Label3 = label(QStringLiteral("Label3"), QString(), 5040, 120, label3Width, label3Height, Arial(12));
-    Label3->setBackColor(QColor(0x00, 0xff, 0xff));
+    Label3->setBackColor(kCiano);
 
     BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), 7680, 3540,
                                1575, 1095, Arial(9.75));

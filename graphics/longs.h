@@ -5,28 +5,10 @@
 // types the result. Only the typed result counts. Four screens: each operation with its change and
 // without it.
 
+#include "core/draws.h"
 #include "shell/exercise.h"
 
 namespace contarello {
-
-class Random;
-
-// The three numbers of one operation: for an addition Termine1 + Termine2 = Meta, for a
-// subtraction Meta - Termine1 = Termine2.
-struct Operazione {
-    int16_t Meta = 0, Termine1 = 0, Termine2 = 0;
-};
-
-// Meta from 20 to below the limit, Termine1 from 5 to Meta - 6; the digits fall as they may, so a
-// change is due on some questions only.
-Operazione OperazioneLibera(Random& rnd, int numeroMassimo);
-// Each digit of Termine1 below that of Meta in its place, or 0 where that one is 0: no change is
-// ever due. Meta and Termine1 are never 0; a Meta that has no such Termine1 (1, 10, 11) is drawn
-// again. The repetitions are bounded: a random source that keeps giving the same unfit values ends
-// on a fixed operation instead of for ever.
-Operazione OperazioneSenzaCambio(Random& rnd);
-// What OperazioneSenzaCambio gives when its tries run out.
-constexpr Operazione kOperazioneDiRiserva{25, 12, 13};
 
 struct LongsMember {
     const char* form;

@@ -6,11 +6,6 @@
 
 namespace contarello {
 
-namespace {
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-} // namespace
-
 LongsAddForm::LongsAddForm(Program& program, const LongsMember& member)
     : LongsForm(program, member, 2895, 975, 735) {
     BotDecine1 = BottoneMateriale("BotDecine1", "Decine", 6120, 1680, kRosso);

@@ -14,11 +14,6 @@ constexpr int kLarghezza = 11520, kAltezza = 7200;
 // Rows of the drawing: a bar and a square on each, one under the other.
 constexpr int kRighe = 9, kPassoRiga = 630, kLatoQuadretto = 540, kLunghezzaBarra = 4845;
 
-QString Parola(int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return NumeroInParole(n, g);
-}
-
 FrameOptions Opzioni(const char* scheda, const FrameLayout& layout) {
     FrameOptions o;
     o.captions = MenuCaptions{"Azzera conteggio        ", "Stampa scheda        ", "Informazioni          "};
@@ -70,13 +65,13 @@ LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, 
         Shape* barra = shape(indexed(QStringLiteral("Decine"), i), Shape::Rectangle, left, y, kLunghezzaBarra,
                              kLatoQuadretto);
         barra->setFillStyle(Shape::Solid);
-        barra->setFillColor(QColor(0xff, 0x00, 0x00));
+        barra->setFillColor(kRosso);
         barra->setVisible(false);
         Decine.set(i, barra);
         Shape* quadretto = shape(indexed(QStringLiteral("Unita"), i), Shape::Square,
                                  left + kLunghezzaBarra + 195, y, kLatoQuadretto, kLatoQuadretto);
         quadretto->setFillStyle(Shape::Solid);
-        quadretto->setFillColor(QColor(0x00, 0x00, 0xff));
+        quadretto->setFillColor(kBlu);
         quadretto->setVisible(false);
         Unita.set(i, quadretto);
     }
@@ -98,15 +93,15 @@ QJsonObject LunghiForm::fields() const {
 Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 210, 120, 5580, 540, Arial(20.25));
     EtichettaNumero->setAlignment(Qt::AlignCenter);
-    EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
+    EtichettaNumero->setBackColor(kCiano);
 
     constexpr int x = 6120, largo = 2520;
     BottoneUnita =
         button(QStringLiteral("BottoneUnita"), QStringLiteral("Unità"), x, 735, largo, 735, Arial(14.25));
-    BottoneUnita->setBackColor(QColor(0x00, 0x00, 0xff));
+    BottoneUnita->setBackColor(kBlu);
     BottoneDecine =
         button(QStringLiteral("BottoneDecine"), QStringLiteral("Decine"), x, 1620, largo, 735, Arial(14.25));
-    BottoneDecine->setBackColor(QColor(0xff, 0x00, 0x00));
+    BottoneDecine->setBackColor(kRosso);
     BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), x, 2505,
                                largo, 1095, Arial(12));
     BottoneRicomincia->setPicture(pictures::FrecciaCircolare());
@@ -144,7 +139,7 @@ void Form999x::NuovaDomanda() {
     g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
     NumeroDecine = 0;
     NumeroUnita = 0;
-    EtichettaNumero->setCaption(MenuParola->Checked() ? Parola(g.NumeroEsatto, g)
+    EtichettaNumero->setCaption(MenuParola->Checked() ? InParole(g.NumeroEsatto, g)
                                                       : Format(g.NumeroEsatto, QStringLiteral("#,##0")));
 }
 
@@ -184,7 +179,7 @@ bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
 
 // One spelling per number, in capitals, without accent or blank inside; blanks around it are forgiven.
 bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
-    return Trim(testo) == Parola(numero, g);
+    return Trim(testo) == InParole(numero, g);
 }
 
 constexpr std::array<LongsReaderMember, 2> kReaders = {{

@@ -12,10 +12,6 @@ namespace contarello {
 
 namespace {
 
-const QColor kFondo(0xc0, 0x00, 0xc0);
-const QColor kNero(0, 0, 0);
-const QColor kRosso(0xff, 0, 0);
-
 // The axis, and the ticks on it: tick i stands at kSinistra + kPasso * i.
 constexpr int kSinistra = 525, kPasso = 420, kAsse = 3885, kCimaTacca = 3570;
 // Wide enough that a red tick stands out from the black ones on the violet ground.
@@ -56,7 +52,7 @@ FormList NumberLineForms() {
 
 NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)
     : ExerciseForm(program, Variante::A, 0, 9495, 6510, Opzioni()), member_(member) {
-    setBackColor(kFondo);
+    setBackColor(kViola);
     Line1 = line(QStringLiteral("Line1"), kSinistra, kAsse, kSinistra + kPasso * (kTacche - 1), kAsse, kNero,
                  kSpessore);
     for (int i = 0; i < kTacche; ++i) {

@@ -5,15 +5,6 @@
 namespace contarello {
 
 namespace {
-
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-const QColor kMagenta(0xff, 0x00, 0xff);
-const QColor kCiano(0x00, 0xff, 0xff);
-
-} // namespace
-
-namespace {
 // No "avanti": the right tens bring a "Bravo" and the next operation. The counters and the faces
 // stand right of the column.
 FrameOptions Opzioni(const ColumnMember& m) {

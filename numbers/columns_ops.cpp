@@ -154,7 +154,7 @@ void FormAddizione::CambioUa_DragDrop(Control* source) {
 
 FormSottrazione::FormSottrazione(Program& program, const ColumnMember& member)
     : ColumnForm(program, member, Variante::B) {
-    setBackColor(QColor(0x00, 0xff, 0xff));
+    setBackColor(kCiano);
     Label6->setCaption(QStringLiteral("-"));
     line(QStringLiteral("Line2"), 6360, 2160, 7080, 2160, Qt::black, 3);
     // The empty violet label waits above the tens, clear of their head, and goes just left of the

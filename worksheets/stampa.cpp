@@ -1,4 +1,5 @@
 #include "worksheets/stampa.h"
+#include "shell/colori.h"
 #include "shell/pictures.h"
 #include "shell/printout.h"
 #include "shell/program.h"
@@ -27,7 +28,7 @@ MultiLineTextBox* Pagina(QWidget* parent) {
 } // namespace
 
 formStampa::formStampa(Program& program) : Form(program, 9480, 6795) {
-    setBackColor(QColor(0xff, 0xff, 0x00));
+    setBackColor(kGiallo);
 
     // Made first, so the sheet is first in the tab order: the adult may correct it by hand.
     txtCD = adopt(Pagina(client()), QStringLiteral("txtCD"), 75, 165, 6090, 6630);
