@@ -60,10 +60,10 @@ FrameOptions Opzioni(const char* azzera, const char* scheda, FrameLayout layout,
 
 } // namespace
 
-// ---- AbacoScreen ----
+// ---- AbacusForm ----
 
-AbacoScreen::AbacoScreen(Program& program, int widthTwips, int heightTwips, FrameOptions options,
-                         const AbacoGeometria& at)
+AbacusForm::AbacusForm(Program& program, int widthTwips, int heightTwips, FrameOptions options,
+                       const AbacoGeometria& at)
     : ExerciseForm(program, Variante::B, 0, widthTwips, heightTwips, options) {
     FiloAbaco.set(1, line(indexed(QStringLiteral("FiloAbaco"), 1), at.xDecine, at.yDecine1, at.xDecine,
                           at.yDecine2, Qt::black, 3));
@@ -82,16 +82,16 @@ AbacoScreen::AbacoScreen(Program& program, int widthTwips, int heightTwips, Fram
     }
 }
 
-QJsonObject AbacoScreen::fields() const {
+QJsonObject AbacusForm::fields() const {
     return {{"NumeroUnita", NumeroUnita}, {"NumeroDecine", NumeroDecine}};
 }
 
-void AbacoScreen::NascondiPalline() {
+void AbacusForm::NascondiPalline() {
     MostraPalline(pal_da, 0);
     MostraPalline(pal_u, 0);
 }
 
-void AbacoScreen::MostraPalline(ControlArray<Shape>& filo, int n) {
+void AbacusForm::MostraPalline(ControlArray<Shape>& filo, int n) {
     for (auto& [i, s] : filo)
         s->setVisible(i < n);
 }
@@ -115,9 +115,8 @@ constexpr AbacoGeometria kForm99a{2565, 1575, 6015, 4305, 1680, 6120, 5670, 5730
 } // namespace
 
 Form99a::Form99a(Program& program)
-    : AbacoScreen(program, kLargo99a, 8040,
-                  Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout(), SetUp::OnLoad),
-                  kForm99a) {
+    : AbacusForm(program, kLargo99a, 8040,
+                 Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout(), SetUp::OnLoad), kForm99a) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 1035, 1020, 4800, 480, Arial(18));
     EtichettaNumero->setBackColor(kCiano);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
@@ -169,7 +168,7 @@ Form99a::Form99a(Program& program)
 }
 
 QJsonObject Form99a::fields() const {
-    QJsonObject f = AbacoScreen::fields();
+    QJsonObject f = AbacusForm::fields();
     f[QStringLiteral("InCifre")] = InCifre;
     return f;
 }

@@ -16,14 +16,13 @@ struct AbacoGeometria {
 };
 
 // The frame, two wires and nine beads on each; the beads are only shown and hidden.
-class AbacoScreen : public ExerciseForm {
+class AbacusForm : public ExerciseForm {
     Q_OBJECT
 public:
     QJsonObject fields() const override;
 
 protected:
-    AbacoScreen(Program& app, int widthTwips, int heightTwips, FrameOptions options,
-                const AbacoGeometria& at);
+    AbacusForm(Program& app, int widthTwips, int heightTwips, FrameOptions options, const AbacoGeometria& at);
 
     // All eighteen beads hidden.
     void NascondiPalline();
@@ -38,7 +37,7 @@ protected:
 };
 
 // The number asked in words or digits; the child threads the beads and confirms.
-class Form99a : public AbacoScreen {
+class Form99a : public AbacusForm {
     Q_OBJECT
 public:
     explicit Form99a(Program& app);
@@ -68,7 +67,7 @@ private:
 };
 
 // Form99b and Form99b1: the beads of a number drawn, the child writes it.
-struct AbacoMember {
+struct AbacusReaderMember {
     const char* form;
     const char* consegna; // the prompt left of the box
     bool randomize;       // Form99b1 seeds the sequence again as it opens
@@ -84,10 +83,10 @@ struct AbacoMember {
 // The three abacus screens, each under its own name.
 FormList AbacusForms();
 
-class AbacoForm : public AbacoScreen {
+class AbacusReaderForm : public AbacusForm {
     Q_OBJECT
 public:
-    AbacoForm(Program& app, const AbacoMember& member);
+    AbacusReaderForm(Program& app, const AbacusReaderMember& member);
 
 protected:
     void Prepara() override;
@@ -95,7 +94,7 @@ protected:
     void NuovaDomanda() override;
 
 private:
-    const AbacoMember& member_;
+    const AbacusReaderMember& member_;
     Label* Label3;
     TextBox* TestoNumero;
 };

@@ -11,11 +11,11 @@ namespace contarello {
 
 namespace {
 
-constexpr AbacoOpMember kSomme[] = {
+constexpr AbacusOpMember kSomme[] = {
     {"Form99c", 15, true},
     {"Form99c1", 16, false},
 };
-constexpr AbacoOpMember kDifferenze[] = {
+constexpr AbacusOpMember kDifferenze[] = {
     {"Form99d", 17, true},
     {"Form99d1", 18, false},
 };
@@ -45,7 +45,7 @@ QPixmap FrecciaRossa(bool aSinistra) {
 } // namespace
 
 FormList AbacusOpForms() {
-    return Join({Members<AbacoSommaForm>(kSomme), Members<AbacoDifferenzaForm>(kDifferenze)});
+    return Join({Members<AbacusSumForm>(kSomme), Members<AbacusDifferenceForm>(kDifferenze)});
 }
 
 namespace {
@@ -58,12 +58,12 @@ FrameOptions Opzioni(FrameLayout layout) {
 }
 } // namespace
 
-AbacoOpForm::AbacoOpForm(Program& program, const AbacoOpMember& member, int widthTwips, int heightTwips,
-                         FrameLayout layout)
+AbacusOpForm::AbacusOpForm(Program& program, const AbacusOpMember& member, int widthTwips, int heightTwips,
+                           FrameLayout layout)
     : ExerciseForm(program, Variante::B, member.numeroScheda, widthTwips, heightTwips, Opzioni(layout)),
       member_(member) {}
 
-void AbacoOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
+void AbacusOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 120, 120, larghezzaDomanda, 615,
                             SansSerif(18, true));
     EtichettaNumero->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -74,7 +74,7 @@ void AbacoOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
     Text1->setVisible(false);
 }
 
-void AbacoOpForm::CreaAbaco(const Geometria& geo) {
+void AbacusOpForm::CreaAbaco(const Geometria& geo) {
     auto filo = [&](int i, int x) {
         FiloAbaco.set(i, line(indexed(QStringLiteral("FiloAbaco"), i), x, geo.filoAlto, x, geo.filoBasso,
                               Qt::black, 3));
@@ -120,14 +120,14 @@ void AbacoOpForm::CreaAbaco(const Geometria& geo) {
     }
 }
 
-QJsonObject AbacoOpForm::fields() const {
+QJsonObject AbacusOpForm::fields() const {
     return {{"NumeroUnita", NumeroUnita},
             {"NumeroDecine", NumeroDecine},
             {"Fase", Fase},
             {"NumeroEsatto", RispostaAttesa()}};
 }
 
-void AbacoOpForm::MostraPalline() {
+void AbacusOpForm::MostraPalline() {
     // The beads always stand from the bottom of their wire up, as many as counted: after a change the
     // units left over come down the first wire, so a bead taken off is always one that shows.
     for (auto& [i, s] : pal_da)
@@ -138,7 +138,7 @@ void AbacoOpForm::MostraPalline() {
     Label4->setCaption(Str(NumeroDecine));
 }
 
-void AbacoOpForm::AzzeraAbaco() {
+void AbacusOpForm::AzzeraAbaco() {
     Fase = 1;
     NumeroUnita = 0;
     NumeroDecine = 0;
@@ -146,35 +146,35 @@ void AbacoOpForm::AzzeraAbaco() {
     if (BottoneCambio) BottoneCambio->setEnabled(true);
 }
 
-bool AbacoOpForm::AggiungiDecina() {
+bool AbacusOpForm::AggiungiDecina() {
     if (NumeroDecine >= 9) return false;
     ++NumeroDecine;
     MostraPalline();
     return true;
 }
 
-bool AbacoOpForm::TogliDecina() {
+bool AbacusOpForm::TogliDecina() {
     if (NumeroDecine <= 0) return false;
     --NumeroDecine;
     MostraPalline();
     return true;
 }
 
-bool AbacoOpForm::AggiungiUnita() {
+bool AbacusOpForm::AggiungiUnita() {
     if (NumeroUnita >= LimiteUnita()) return false;
     ++NumeroUnita;
     MostraPalline();
     return true;
 }
 
-bool AbacoOpForm::TogliUnita() {
+bool AbacusOpForm::TogliUnita() {
     if (NumeroUnita <= 0) return false;
     --NumeroUnita;
     MostraPalline();
     return true;
 }
 
-void AbacoOpForm::ApriRisultato() {
+void AbacusOpForm::ApriRisultato() {
     Text1->setText(QString());
     Text1->setVisible(true);
     if (Text1->isEnabled()) Text1->SetFocus();

@@ -10,7 +10,7 @@
 
 namespace contarello {
 
-struct AbacoOpMember {
+struct AbacusOpMember {
     const char* form;
     int16_t numeroScheda;
     bool cambio; // a second units wire and the "Cambio" button
@@ -21,11 +21,11 @@ FormList AbacusOpForms();
 
 // What both operations share: the wires, the beads shown from their counts, the counts beside the
 // wires, the result box, the change button and "Ricomincia".
-class AbacoOpForm : public ExerciseForm {
+class AbacusOpForm : public ExerciseForm {
     Q_OBJECT
 public:
-    AbacoOpForm(Program& app, const AbacoOpMember& member, int widthTwips, int heightTwips,
-                FrameLayout layout);
+    AbacusOpForm(Program& app, const AbacusOpMember& member, int widthTwips, int heightTwips,
+                 FrameLayout layout);
 
     QJsonObject fields() const override;
 
@@ -60,7 +60,7 @@ protected:
     // The number the result box expects: the sum, or what is left.
     virtual int RispostaAttesa() const = 0;
 
-    const AbacoOpMember& member_;
+    const AbacusOpMember& member_;
     Label* EtichettaNumero;
     TextBox* Text1;
     Label* Label3; // the units counted
@@ -79,10 +79,10 @@ protected:
     int16_t Fase = 1;
 };
 
-class AbacoSommaForm : public AbacoOpForm {
+class AbacusSumForm : public AbacusOpForm {
     Q_OBJECT
 public:
-    AbacoSommaForm(Program& app, const AbacoOpMember& member);
+    AbacusSumForm(Program& app, const AbacusOpMember& member);
 
 protected:
     void NuovaDomanda() override;
@@ -96,10 +96,10 @@ private:
     Label* Label6;
 };
 
-class AbacoDifferenzaForm : public AbacoOpForm {
+class AbacusDifferenceForm : public AbacusOpForm {
     Q_OBJECT
 public:
-    AbacoDifferenzaForm(Program& app, const AbacoOpMember& member);
+    AbacusDifferenceForm(Program& app, const AbacusOpMember& member);
 
 protected:
     void NuovaDomanda() override;

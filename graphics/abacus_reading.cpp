@@ -21,7 +21,7 @@ bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
     return Trim(testo) == InParole(numero, g);
 }
 
-constexpr std::array<AbacoMember, 2> kMembers = {{
+constexpr std::array<AbacusReaderMember, 2> kMembers = {{
     {"Form99b", "scrivi il numero in cifre", false, false, CifreGiuste, nullptr},
     {"Form99b1", "scrivi il numero in lettere", true, true, ParolaGiusta, FiltroMaiuscole},
 }};
@@ -52,11 +52,11 @@ FrameOptions Opzioni() {
 } // namespace
 
 FormList AbacusForms() {
-    return Join({{Screen<Form99a>("Form99a")}, Members<AbacoForm>(kMembers)});
+    return Join({{Screen<Form99a>("Form99a")}, Members<AbacusReaderForm>(kMembers)});
 }
 
-AbacoForm::AbacoForm(Program& program, const AbacoMember& member)
-    : AbacoScreen(program, 9495, 6510, Opzioni(), kGeometria), member_(member) {
+AbacusReaderForm::AbacusReaderForm(Program& program, const AbacusReaderMember& member)
+    : AbacusForm(program, 9495, 6510, Opzioni(), kGeometria), member_(member) {
     Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 240, 5280, 3855, 375,
                    Arial(12));
     Label3->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -69,12 +69,12 @@ AbacoForm::AbacoForm(Program& program, const AbacoMember& member)
                                  mnuStampa);
 }
 
-void AbacoForm::Prepara() {
+void AbacusReaderForm::Prepara() {
     if (member_.randomize) app.rnd.Randomize();
     NumeroUnita = NumeroDecine = 0;
 }
 
-void AbacoForm::NuovaDomanda() {
+void AbacusReaderForm::NuovaDomanda() {
     CaricaColori();
     TestoNumero->setText(QString());
     NumeroUnita = NumeroDecine = 0;

@@ -25,8 +25,8 @@ FrameLayout LayoutSomma() {
 
 } // namespace
 
-AbacoSommaForm::AbacoSommaForm(Program& program, const AbacoOpMember& member)
-    : AbacoOpForm(program, member, 9720, 7080, LayoutSomma()) {
+AbacusSumForm::AbacusSumForm(Program& program, const AbacusOpMember& member)
+    : AbacusOpForm(program, member, 9720, 7080, LayoutSomma()) {
     CreaDomanda(3420, 3600);
 
     CreaAbaco({1260, 5700, 5355, 5310, 1470, 0, true});
@@ -56,12 +56,12 @@ AbacoSommaForm::AbacoSommaForm(Program& program, const AbacoOpMember& member)
     Bot_ricomincia->Click = [this] { Ricomincia(); };
 }
 
-void AbacoSommaForm::Consegna() {
+void AbacusSumForm::Consegna() {
     Label5->setCaption(QStringLiteral("inserisci il numero ") + Str(g.Termine1) +
                        QStringLiteral(" nell'abaco"));
 }
 
-void AbacoSommaForm::NuovaDomanda() {
+void AbacusSumForm::NuovaDomanda() {
     Text1->setEnabled(true);
     Text1->setVisible(false);
     Fase = 1;
@@ -78,7 +78,7 @@ void AbacoSommaForm::NuovaDomanda() {
     Consegna();
 }
 
-void AbacoSommaForm::Controlla() {
+void AbacusSumForm::Controlla() {
     // One call may pass several steps: with no change due, the sum reached goes straight to the result.
     const int n = Valore();
     if (Fase == 1 && n == g.Termine1) {
@@ -100,7 +100,7 @@ void AbacoSommaForm::Controlla() {
     if (Fase == 4 && n == g.Meta) ApriRisultato();
 }
 
-void AbacoSommaForm::BottoneCambio_Click() {
+void AbacusSumForm::BottoneCambio_Click() {
     // Nine tens are all the wire holds: with them up there is no tens bead to change the units into.
     if (NumeroUnita < 10 || NumeroDecine >= 9) {
         RispostaErrata();
@@ -113,7 +113,7 @@ void AbacoSommaForm::BottoneCambio_Click() {
     Controlla();
 }
 
-void AbacoSommaForm::Ricomincia() {
+void AbacusSumForm::Ricomincia() {
     Text1->setEnabled(true);
     AzzeraAbaco();
     Text1->setText(QString());

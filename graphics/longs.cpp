@@ -38,8 +38,8 @@ FormList LongsForms() {
     return Join({Members<LongsAddForm>(kAddizioni), Members<LongsSubForm>(kSottrazioni)});
 }
 
-LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Width, int label3Height,
-                     int risultatoHeight)
+LongsOpForm::LongsOpForm(Program& program, const LongsMember& member, int label3Width, int label3Height,
+                         int risultatoHeight)
     : ExerciseForm(program, Variante::B, member.numeroScheda, 9840, 6360, Opzioni()), member_(member) {
     EtNumero = label(QStringLiteral("EtNumero"), QString(), 360, 240, 2655, 735, Arial(24));
     // Only the typed result counts. Only Enter judges; what stands in the box is read as a number, so
@@ -58,7 +58,7 @@ LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Widt
     BottoneRicomincia->Click = [this] { BottoneRicomincia_Click(); };
 }
 
-Label* LongsForm::Pezzo(const QString& name, int left, int top, int width, QColor colour) {
+Label* LongsOpForm::Pezzo(const QString& name, int left, int top, int width, QColor colour) {
     Label* l = label(name, QString(), left, top, width, 255, Arial(8));
     l->setBackColor(colour);
     l->setFrameShape(QFrame::Box); // an edge, so that pieces side by side are told apart
@@ -66,8 +66,8 @@ Label* LongsForm::Pezzo(const QString& name, int left, int top, int width, QColo
     return l;
 }
 
-CommandButton* LongsForm::BottoneMateriale(const char* name, const char* caption, int left, int top,
-                                           QColor colour) {
+CommandButton* LongsOpForm::BottoneMateriale(const char* name, const char* caption, int left, int top,
+                                             QColor colour) {
     CommandButton* b =
         button(QString::fromUtf8(name), QString::fromUtf8(caption), left, top, 975, 495, Arial(9.75));
     b->setBackColor(colour);
@@ -76,7 +76,7 @@ CommandButton* LongsForm::BottoneMateriale(const char* name, const char* caption
     return b;
 }
 
-void LongsForm::EstraiOperazione() {
+void LongsOpForm::EstraiOperazione() {
     const Operazione o =
         member_.cambio ? OperazioneLibera(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
     g.Meta = o.Meta;
@@ -84,7 +84,7 @@ void LongsForm::EstraiOperazione() {
     g.Termine2 = o.Termine2;
 }
 
-void LongsForm::InRisultato() {
+void LongsOpForm::InRisultato() {
     Consegna("Inserisci il risultato.");
     Risultato->setVisible(true);
     Risultato->setText(QString());

@@ -21,11 +21,11 @@ struct LongsMember {
 FormList LongsForms();
 
 // What the four screens share: the operation, the instruction, the result box, "Ricomincia".
-class LongsForm : public ExerciseForm {
+class LongsOpForm : public ExerciseForm {
     Q_OBJECT
 public:
-    LongsForm(Program& app, const LongsMember& member, int label3Width, int label3Height,
-              int risultatoHeight);
+    LongsOpForm(Program& app, const LongsMember& member, int label3Width, int label3Height,
+                int risultatoHeight);
 
 protected:
     virtual void BottoneRicomincia_Click() = 0;
@@ -49,7 +49,7 @@ protected:
 };
 
 // Addition: two rows, one for each addend, and a strip between them where the change puts its long.
-class LongsAddForm : public LongsForm {
+class LongsAddForm : public LongsOpForm {
     Q_OBJECT
 public:
     LongsAddForm(Program& app, const LongsMember& member);
@@ -79,7 +79,7 @@ private:
 
 // Subtraction: one row for the first number, and on the screen with the change a strip for the ten
 // squares a long turns into.
-class LongsSubForm : public LongsForm {
+class LongsSubForm : public LongsOpForm {
     Q_OBJECT
 public:
     LongsSubForm(Program& app, const LongsMember& member);

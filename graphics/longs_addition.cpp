@@ -7,7 +7,7 @@
 namespace contarello {
 
 LongsAddForm::LongsAddForm(Program& program, const LongsMember& member)
-    : LongsForm(program, member, 2895, 975, 735) {
+    : LongsOpForm(program, member, 2895, 975, 735) {
     BotDecine1 = BottoneMateriale("BotDecine1", "Decine", 6120, 1680, kRosso);
     BotUnita1 = BottoneMateriale("BotUnita1", "Unità", 6120, 2400, kBlu);
     BotDecine2 = BottoneMateriale("BotDecine2", "Decine", 6120, 4200, kRosso);

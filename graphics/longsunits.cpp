@@ -54,9 +54,10 @@ FrameLayout AspettoLettore() {
 
 } // namespace
 
-// ---- LunghiForm ----
+// ---- LongsUnitsForm ----
 
-LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, const FrameLayout& layout)
+LongsUnitsForm::LongsUnitsForm(Program& program, const char* scheda, int left, int top,
+                               const FrameLayout& layout)
     : ExerciseForm(program, Variante::B, 0, kLarghezza, kAltezza, Opzioni(scheda, layout)) {
     AggiungiCorniceNumeroMassimo(QStringLiteral("MenuNumeroMassimo"),
                                  QStringLiteral("Scegli il numero massimo        "), mnuStampa);
@@ -77,20 +78,21 @@ LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, 
     }
 }
 
-void LunghiForm::NascondiDisegno() {
+void LongsUnitsForm::NascondiDisegno() {
     for (int i = 0; i < kRighe; ++i) {
         Decine(i)->setVisible(false);
         Unita(i)->setVisible(false);
     }
 }
 
-QJsonObject LunghiForm::fields() const {
+QJsonObject LongsUnitsForm::fields() const {
     return {{"NumeroDecine", NumeroDecine}, {"NumeroUnita", NumeroUnita}};
 }
 
 // ---- Form999x ----
 
-Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
+Form999x::Form999x(Program& program)
+    : LongsUnitsForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 210, 120, 5580, 540, Arial(20.25));
     EtichettaNumero->setAlignment(Qt::AlignCenter);
     EtichettaNumero->setBackColor(kCiano);
@@ -119,17 +121,9 @@ Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 7
     BottoneUnita->Click = [this] { BottoneUnita_Click(); };
     BottoneRicomincia->Click = [this] { BottoneRicomincia_Click(); };
     BottoneConferma->Click = [this] { BottoneConferma_Click(); };
-    // The check mark is the one store of the choice; either item brings a new number.
-    MenuParola->Click = [this] {
-        MenuCifre->setChecked(false);
-        MenuParola->setChecked(true);
-        NuovaDomanda();
-    };
-    MenuCifre->Click = [this] {
-        MenuParola->setChecked(false);
-        MenuCifre->setChecked(true);
-        NuovaDomanda();
-    };
+    // Either item brings a new number; the check mark shows the choice.
+    MenuParola->Click = [this] { ScegliCifre(false); };
+    MenuCifre->Click = [this] { ScegliCifre(true); };
     CorniceNumeroMassimo->raise();
 }
 
@@ -139,8 +133,15 @@ void Form999x::NuovaDomanda() {
     g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
     NumeroDecine = 0;
     NumeroUnita = 0;
-    EtichettaNumero->setCaption(MenuParola->Checked() ? InParole(g.NumeroEsatto, g)
-                                                      : Format(g.NumeroEsatto, QStringLiteral("#,##0")));
+    EtichettaNumero->setCaption(InCifre ? Format(g.NumeroEsatto, QStringLiteral("#,##0"))
+                                        : InParole(g.NumeroEsatto, g));
+}
+
+void Form999x::ScegliCifre(bool cifre) {
+    InCifre = cifre;
+    MenuParola->setChecked(!cifre);
+    MenuCifre->setChecked(cifre);
+    NuovaDomanda();
 }
 
 // Nine of a kind at most: a tenth press changes nothing, and ten squares never turn into a bar.
@@ -194,7 +195,7 @@ FormList LongsUnitsForms() {
 }
 
 LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& member)
-    : LunghiForm(program, "formStampa4", 105, 315, AspettoLettore()), member_(member) {
+    : LongsUnitsForm(program, "formStampa4", 105, 315, AspettoLettore()), member_(member) {
     Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 5880, 2220, 5520, 375,
                    Arial(12));
     Label3->setAlignment(Qt::AlignCenter);

@@ -9,7 +9,7 @@
 namespace contarello {
 
 // The drawing, the limit panel set back to 99 at each Load, the counters and the first question.
-class LunghiForm : public ExerciseForm {
+class LongsUnitsForm : public ExerciseForm {
     Q_OBJECT
 public:
     QJsonObject fields() const override;
@@ -17,7 +17,7 @@ public:
 protected:
     // The bars and squares stand in two columns of nine rows, bar i and square i on row i; top is
     // where row 0 stands, left where the bars begin.
-    LunghiForm(Program& app, const char* scheda, int left, int top, const FrameLayout& layout);
+    LongsUnitsForm(Program& app, const char* scheda, int left, int top, const FrameLayout& layout);
     // The drawing as it stands at the start of every question: nothing on show.
     void NascondiDisegno();
 
@@ -28,7 +28,7 @@ protected:
 };
 
 // "dal numero al disegno": the number in words or digits, built by adding bars and squares.
-class Form999x : public LunghiForm {
+class Form999x : public LongsUnitsForm {
     Q_OBJECT
 public:
     explicit Form999x(Program& app);
@@ -41,6 +41,7 @@ private:
     void BottoneUnita_Click();
     void BottoneRicomincia_Click();
     void BottoneConferma_Click();
+    void ScegliCifre(bool cifre);
 
     Label* EtichettaNumero;
     CommandButton* BottoneUnita;
@@ -50,6 +51,7 @@ private:
     MenuItem* MenuNumero;
     MenuItem* MenuParola;
     MenuItem* MenuCifre;
+    bool InCifre = false; // the number asked in digits, or in words
 };
 
 // One of the two screens that draw a number and take it typed.
@@ -67,7 +69,7 @@ struct LongsReaderMember {
 FormList LongsUnitsForms();
 
 // Form999y, "scrivi il numero in cifre", and Form999z, "scrivi il numero in lettere".
-class LongsReaderForm : public LunghiForm {
+class LongsReaderForm : public LongsUnitsForm {
     Q_OBJECT
 public:
     LongsReaderForm(Program& app, const LongsReaderMember& member);

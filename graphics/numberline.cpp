@@ -81,38 +81,40 @@ void NumberLineForm::NuovaDomanda() {
     Text1->setText(QString());
     for (int i = 0; i < kTacche; ++i) {
         Line2(i)->setBorderColor(kNero);
+        Segnate[size_t(i)] = false;
         Label3(i)->setVisible(false);
     }
     if (member_.decineFisse) {
         // From 10 to 70, whatever the limit: the highest number on a line is 90.
         NumeroIniziale = int16_t((Draw(app.rnd, 7) + 1) * 10);
         for (int i = 0; i < kTacche; i += 10) {
-            Line2(i)->setBorderColor(kRosso);
+            Segna(i);
             ScriviNumero(i);
         }
     } else {
         // From 0 to the limit less 21, so the line ends below the limit.
         NumeroIniziale = int16_t(Draw(app.rnd, g.NumeroMassimo - 20));
         TaccaScelta = int16_t(std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1));
-        Line2(TaccaScelta)->setBorderColor(kRosso);
+        Segna(TaccaScelta);
         ScriviNumero(TaccaScelta);
     }
     Text1->setText(QString());
     ColoraLinea();
 }
 
-bool NumberLineForm::Segnata(int tacca) const {
-    return Line2(tacca)->BorderColor() == kRosso;
+void NumberLineForm::Segna(int tacca) {
+    Line2(tacca)->setBorderColor(kRosso);
+    Segnate[size_t(tacca)] = true;
 }
 
 void NumberLineForm::ColoraLinea() {
     int tacca = std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1);
-    for (int tentativi = 1; Segnata(tacca) && tentativi < kTentativi; ++tentativi)
+    for (int tentativi = 1; Segnate[size_t(tacca)] && tentativi < kTentativi; ++tentativi)
         tacca = std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1);
-    for (int passo = 0; Segnata(tacca) && passo < kTacche; ++passo)
+    for (int passo = 0; Segnate[size_t(tacca)] && passo < kTacche; ++passo)
         tacca = (tacca + 1) % kTacche;
     TaccaScelta = int16_t(tacca);
-    Line2(TaccaScelta)->setBorderColor(kRosso);
+    Segna(TaccaScelta);
     Text1->setText(QString());
     if (Text1->isEnabled()) Text1->SetFocus();
 }

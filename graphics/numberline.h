@@ -6,6 +6,8 @@
 
 #include "shell/exercise.h"
 
+#include <array>
+
 namespace contarello {
 
 struct NumberLineMember {
@@ -46,7 +48,8 @@ protected:
 private:
     // Chooses a tick not yet red and marks it: the one the child names next.
     void ColoraLinea();
-    bool Segnata(int tacca) const;
+    // A tick turned red: written, or named already.
+    void Segna(int tacca);
     // Writes the tick's number above it, the digits centred on the tick.
     void ScriviNumero(int tacca);
 
@@ -56,6 +59,7 @@ private:
     ControlArray<Label> Label3;
     TextBox* Text1;
 
+    std::array<bool, kTacche> Segnate{}; // the red ticks
     int16_t NumeroIniziale = 0;
     int16_t TaccaScelta = 0;
     int16_t NumeroRisposte = 0;

@@ -55,9 +55,15 @@ void TabellaLivelliForm::RiempiTabella() {
 
 void TabellaLivelliForm::Ricomincia() {
     Trovati = 0;
+    Rosse.fill(false);
     for (auto& [i, c] : Numero)
         c->setBackColor(kCellaLibera);
     RiempiTabella();
+}
+
+void TabellaLivelliForm::Colora(int i) {
+    Numero(i)->setBackColor(kCellaRossa);
+    Rosse[size_t(i)] = true;
 }
 
 void TabellaLivelliForm::Trovato() {
@@ -104,7 +110,7 @@ void Form100Trova::Riapri() {
 
 void Form100Trova::NuovaDomanda() {
     CaricaColori();
-    g.NumeroEsatto = EstraiLibera([this](int i) { return Numero(i)->BackColor() == kCellaRossa; });
+    g.NumeroEsatto = EstraiLibera([this](int i) { return Rossa(i); });
     EtichettaNumero->setCaption(Str(g.NumeroEsatto));
 }
 
@@ -115,7 +121,7 @@ void Form100Trova::Numero_Click(int i) {
 // The cell found shows its number, in red.
 void Form100Trova::Esatta() {
     Numero(g.NumeroEsatto)->setCaption(Str(g.NumeroEsatto));
-    Numero(g.NumeroEsatto)->setBackColor(kCellaRossa);
+    Colora(g.NumeroEsatto);
     Trovato();
 }
 
@@ -148,14 +154,13 @@ void Form100Ricon::Riapri() {
 void Form100Ricon::RiempiTabella() {
     TabellaLivelliForm::RiempiTabella();
     // A change of level mustn't write in the number the child is being asked for.
-    if (Text1->isEnabled() && Numero(g.NumeroEsatto)->BackColor() == kCellaRossa)
-        Numero(g.NumeroEsatto)->setCaption(QString());
+    if (Text1->isEnabled() && Rossa(g.NumeroEsatto)) Numero(g.NumeroEsatto)->setCaption(QString());
 }
 
 void Form100Ricon::NuovaDomanda() {
     CaricaColori();
     g.NumeroEsatto = EstraiLibera([this](int i) { return !Numero(i)->Caption().isEmpty(); });
-    Numero(g.NumeroEsatto)->setBackColor(kCellaRossa);
+    Colora(g.NumeroEsatto);
     Text1->setText(QString());
     if (Text1->isEnabled()) Text1->SetFocus();
 }

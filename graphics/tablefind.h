@@ -5,6 +5,8 @@
 
 #include "graphics/numbertable.h"
 
+#include <array>
+
 namespace contarello {
 
 class TabellaLivelliForm : public TabellaForm {
@@ -25,6 +27,9 @@ protected:
     void Ricomincia();
     // One more number found in this round; the tenth clears the table at once.
     void Trovato();
+    // Cell i turned red: found, or asked for.
+    void Colora(int i);
+    bool Rossa(int i) const { return i >= 0 && i < 100 && Rosse[size_t(i)]; }
     // What each screen sets going again as it starts: the cells, or the answer box.
     virtual void Riapri() = 0;
     // A question's cell: first from the whole table; if that one is taken, again under the limit;
@@ -37,6 +42,7 @@ protected:
     MenuItem* mnuDifficile;
     Label* Label3 = nullptr;
     int16_t Trovati = 0;
+    std::array<bool, 100> Rosse{}; // the red cells of this round
 
 private:
     void Scegli(MenuItem* item);

@@ -85,7 +85,7 @@ void FormOrd::Prepara() {
     ScegliOrdinamento(true);
     for (int i = 0; i < kPosti; ++i)
         ComandoNumero(i)->setVisible(false);
-    Label3->setCaption(QStringLiteral("8"));
+    ScriviRiga(QStringLiteral("8"));
 }
 
 void FormOrd::NuovaDomanda() {
@@ -139,7 +139,7 @@ void FormOrd::RimettiNumeri() {
 
 void FormOrd::Option3D1_Click(int i) {
     QuantiNumeri = int16_t(Val(Option3D1(i)->Caption()));
-    Label3->setCaption(Str(QuantiNumeri));
+    ScriviRiga(Str(QuantiNumeri));
     EtNumeri->setVisible(false);
     NuovaDomanda();
 }
@@ -147,7 +147,19 @@ void FormOrd::Option3D1_Click(int i) {
 // The title bar tells the child the order asked; the numbers already placed stay.
 void FormOrd::ScegliOrdinamento(bool dalMinore) {
     setCaption(dalMinore ? kDalMinore : kDalMaggiore);
+    g.OrdinaConsegna = Caption();
     DalMinore = dalMinore ? True : False;
+}
+
+void FormOrd::ScriviRiga(const QString& quanti) {
+    Label3->setCaption(quanti);
+    g.OrdinaRiga = quanti;
+}
+
+// Without the screen the worksheet is built as from a FormOrd just loaded.
+void FormOrd::Unload() {
+    g.OrdinaRiga = QStringLiteral("8");
+    g.OrdinaConsegna = kDalMinore;
 }
 
 QJsonObject FormOrd::fields() const {

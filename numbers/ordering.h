@@ -17,6 +17,7 @@ public:
     explicit FormOrd(Program& app);
 
     QJsonObject fields() const override;
+    void Unload() override;
 
 protected:
     // Everything is set up as the screen loads and nothing as it comes up: coming back from the
@@ -31,6 +32,8 @@ private:
     void RimettiNumeri();
     void Option3D1_Click(int i);
     void ScegliOrdinamento(bool dalMinore);
+    // The numbers to a row of the worksheet, in the hidden Label3 and for the worksheet.
+    void ScriviRiga(const QString& quanti);
 
     ControlArray<CommandButton> ComandoNumero;
     ControlArray<Label> EtNumero;

@@ -104,13 +104,13 @@ void Form::setBackColor(QColor c) {
     // too; each control chooses its own against what it really stands on.
     p.setColor(QPalette::WindowText, InchiostroSu(c));
     setPalette(p);
-    adattaInchiostri();
+    fitInks();
     update();
 }
 
-void Form::adattaInchiostri() {
+void Form::fitInks() {
     for (Control* c : controls_)
-        c->adattaInchiostro();
+        c->fitInk();
 }
 
 void Form::paintEvent(QPaintEvent*) {

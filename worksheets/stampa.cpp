@@ -118,11 +118,8 @@ void formStampa::NuovaScheda() {
     in.NumeroRighe = NumeroRighe;
     in.NumeroColonne = NumeroColonne;
     // The ordering worksheet asks for rows as long, and in the order, that its screen asks for.
-    if (Form* ord = app.nav.find(QStringLiteral("FormOrd"))) {
-        if (auto* label3 = dynamic_cast<Label*>(ord->find(QStringLiteral("Label3"))))
-            in.ordRowLength = label3->Caption();
-        in.ordTask = ord->Caption();
-    }
+    in.ordRowLength = g.OrdinaRiga;
+    in.ordTask = g.OrdinaConsegna;
     const Scheda scheda = FaiScheda(g.NumeroScheda, in, g, app.rnd);
     txtCD->setText(scheda.txtCD);
     TextCor->setText(scheda.TextCor);
