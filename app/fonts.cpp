@@ -1,4 +1,4 @@
-#include "shell/fonts.h"
+#include "app/fonts.h"
 
 #include <QFileInfo>
 #include <QString>
