@@ -1,9 +1,17 @@
 #include "app/paths.h"
 #include "shell/qtservices.h"
 
+#include "shell/fonts/fonts.h"
+
 #include <QDir>
 #include <QFileInfo>
+#include <QFont>
+#include <QFontInfo>
+#include <QGuiApplication>
 #include <QLibrary>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <cstdio>
 
 #ifndef CONTARELLO_DATA_FROM_BIN
@@ -49,6 +57,27 @@ int ReportProgramFiles(const ProgramFiles& files) {
         std::printf("%s %s\n", loads ? "ok     " : "MISSING",
                     qPrintable(loads ? module.fileName() : module.errorString()));
     }
+    // The face every screen and every sheet is drawn in, as the program's font configuration finds
+    // it, and the face Qt really draws with: a machine without it would lay the screens out wrong.
+    for (const bool bold : {false, true}) {
+        const QString file = ProgramFontFile(bold);
+        missing += file.isEmpty() ? 1 : 0;
+        std::printf("%s %s\n", file.isEmpty() ? "MISSING" : "ok     ",
+                    qPrintable(file.isEmpty() ? ProgramFamily() + (bold ? QStringLiteral(" Bold") : QString())
+                                              : file));
+    }
+    const QString drawn = QFontInfo(QFont(ProgramFamily())).family();
+    missing += drawn == ProgramFamily() ? 0 : 1;
+    std::printf("%s drawn in %s\n", drawn == ProgramFamily() ? "ok     " : "MISSING", qPrintable(drawn));
+    // Qt's own Italian texts ("Sì", "No", "Annulla") and the display's platform plugin.
+    QTranslator italian;
+    const QString translations = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    const bool italiano = italian.load(QLocale(QLocale::Italian, QLocale::Italy), QStringLiteral("qtbase"),
+                                       QStringLiteral("_"), translations);
+    missing += italiano ? 0 : 1;
+    std::printf("%s %s\n", italiano ? "ok     " : "MISSING",
+                qPrintable(italiano ? italian.filePath() : translations + QStringLiteral("/qtbase_it.qm")));
+    std::printf("ok      platform %s\n", qPrintable(QGuiApplication::platformName()));
     return missing == 0 ? 0 : 1;
 }
 

@@ -14,8 +14,9 @@ struct ProgramFiles {
 
 ProgramFiles FindProgramFiles(const QString& programDir);
 
-// For the install check: prints where each file was looked for and whether it is there; 0 when
-// every sound and the sound module were found, 1 otherwise.
+// For the install check: prints where each file the program needs at run time was looked for and
+// whether it is there (the sounds, both modules loaded with the libraries they need, the program's
+// face regular and bold, Qt's Italian texts); 0 when all were found, 1 otherwise.
 int ReportProgramFiles(const ProgramFiles& files);
 
 } // namespace contarello

@@ -11,8 +11,10 @@ PACKAGES=(
     libfontconfig-dev                 # the program's own font configuration
     libbenchmark-dev                  # the benchmark
     poppler-utils                     # the tests read the saved PDF back
+    xvfb xauth                        # the tests start the program on a virtual X display
     desktop-file-utils appstream      # the tests validate the menu entry and the metadata
     dpkg-dev file                     # cpack's .deb and its dependencies
+    lintian                           # the tests check the .deb as Debian's packagers do
     clang libclang-rt-14-dev          # the fuzz targets: clang with its libFuzzer runtime
 )
 

@@ -1,6 +1,7 @@
 // Screens: their window, their menu bar, and the place and names of their controls.
 
 #include "shell/form.h"
+#include "shell/fonts/fonts.h"
 #include "shell/printout.h"
 #include "shell/program.h"
 
@@ -26,14 +27,14 @@ void SetScaleFactor(double factor) {
 }
 
 QFont Arial(double points, bool bold) {
-    QFont f(QStringLiteral("Arial"));
+    QFont f(ProgramFamily());
     f.setPointSizeF(points * gScale);
     f.setBold(bold);
     return f;
 }
 
 QFont SansSerif(double points, bool bold) {
-    QFont f(QStringLiteral("MS Sans Serif"));
+    QFont f(ProgramFamily());
     f.setPointSizeF(points * gScale);
     f.setBold(bold);
     return f;

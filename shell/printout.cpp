@@ -1,5 +1,6 @@
 #include "shell/printout.h"
 #include "core/lang.h"
+#include "shell/fonts/fonts.h"
 #include "shell/form.h"
 #include "shell/program.h"
 
@@ -17,7 +18,7 @@
 namespace contarello {
 
 void PaintText(QPainter& p, QPagedPaintDevice& device, const TestoStampato& documento) {
-    QFont f(documento.fontName);
+    QFont f(ProgramFamily()); // the sheet's "MS Sans Serif", in the program's one face
     f.setPointSizeF(documento.fontSize);
     p.setFont(f);
     const QFontMetrics m = p.fontMetrics();

@@ -1,4 +1,5 @@
 #include "shell/qtservices.h"
+#include "shell/fonts/fonts.h"
 #include "shell/printout.h"
 
 #include <QApplication>
@@ -20,19 +21,17 @@
 namespace contarello {
 
 void PrepareToolkit(QApplication& app) {
-    // The screens are laid out for Arial; Liberation Sans has its metrics. The printout's
-    // "MS Sans Serif" has no alias of its own.
-    QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
-    QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
+    app.setFont(QFont(ProgramFamily(), 9));
 }
 
-void InstallItalianTexts(QCoreApplication& app) {
+bool InstallItalianTexts(QCoreApplication& app) {
     auto* qt = new QTranslator(&app);
-    if (qt->load(QLocale(QLocale::Italian, QLocale::Italy), QStringLiteral("qtbase"), QStringLiteral("_"),
-                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(qt);
+    if (!qt->load(QLocale(QLocale::Italian, QLocale::Italy), QStringLiteral("qtbase"), QStringLiteral("_"),
+                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        return false;
+    QCoreApplication::installTranslator(qt);
+    return true;
 }
 
 double QtRandom::Rnd() {
@@ -70,7 +69,7 @@ void LazySound::preload(const QString& path) {
 namespace {
 // The boxes are read by a parent or a teacher beside the child: a size that reads from a step back.
 QFont kBoxFont() {
-    QFont f(QStringLiteral("Arial"));
+    QFont f(ProgramFamily());
     f.setPointSizeF(12);
     return f;
 }

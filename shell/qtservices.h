@@ -17,7 +17,7 @@ namespace contarello {
 // Fonts and style, once at start.
 void PrepareToolkit(QApplication& app);
 // The Italian texts of Qt's own boxes and menus, needed from the first box on, not for the start.
-void InstallItalianTexts(QCoreApplication& app);
+bool InstallItalianTexts(QCoreApplication& app); // whether Qt's Italian texts were found
 
 // The program's modules, loaded when first needed: the library's name and its entry.
 struct ProgramModule {
@@ -47,6 +47,7 @@ public:
     ~LazySound() override;
     void play(const QString& path) override;
     void preload(const QString& path) override;
+    bool loaded() { return module() != nullptr; } // the module and the audio libraries it needs
 
 private:
     Sound* module();

@@ -19,6 +19,14 @@ done
 
 dpkg-deb -x "$deb" "$scratch/root"
 root=$scratch/root/usr
+
+# One version throughout: the package's, the changelog's latest entry's, the metadata's latest release.
+version=$(dpkg-deb -f "$deb" Version)
+changelog=$(zcat "$root/share/doc/contarello/changelog.gz" | sed -n 1p)
+[[ $changelog == "contarello ($version) "* ]] || fail "package $version, changelog: $changelog"
+release=$(grep -o -m1 '<release version="[^"]*"' "$root/share/metainfo/org.example.contarello.metainfo.xml")
+[ "$release" = "<release version=\"$version\"" ] || fail "package $version, metadata: $release"
+grep -q "^License: GPL-3+" "$root/share/doc/contarello/copyright" || fail "the copyright file names no licence"
 [ -f "$root/share/applications/org.example.contarello.desktop" ] || fail "no menu entry in the package"
 report=$(CONTARELLO_CHECK_FILES=1 QT_QPA_PLATFORM=offscreen "$root/bin/contarello") ||
     fail "the packaged program misses files:"$'\n'"$report"

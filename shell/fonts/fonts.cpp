@@ -1,4 +1,4 @@
-#include "app/fonts.h"
+#include "shell/fonts/fonts.h"
 
 #include <QFileInfo>
 #include <QString>
@@ -30,6 +30,29 @@ bool UseProgramFonts() {
                     FcConfigBuildFonts(config) && FcConfigSetCurrent(config);
     if (config) FcConfigDestroy(config); // the library keeps its own reference to the current one
     return ok;
+}
+
+QString ProgramFontFile(bool bold) {
+    FcPattern* pattern = FcPatternCreate();
+    const QByteArray family = ProgramFamily().toUtf8();
+    FcPatternAddString(pattern, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.constData()));
+    FcPatternAddInteger(pattern, FC_WEIGHT, bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
+    FcConfigSubstitute(nullptr, pattern, FcMatchPattern);
+    FcDefaultSubstitute(pattern);
+    FcResult result = FcResultNoMatch;
+    FcPattern* match = FcFontMatch(nullptr, pattern, &result);
+    QString file;
+    FcChar8* found = nullptr;
+    FcChar8* path = nullptr;
+    int weight = 0;
+    if (match && FcPatternGetString(match, FC_FAMILY, 0, &found) == FcResultMatch &&
+        QString::fromUtf8(reinterpret_cast<const char*>(found)) == ProgramFamily() &&
+        FcPatternGetInteger(match, FC_WEIGHT, 0, &weight) == FcResultMatch &&
+        (weight >= FC_WEIGHT_BOLD) == bold && FcPatternGetString(match, FC_FILE, 0, &path) == FcResultMatch)
+        file = QString::fromUtf8(reinterpret_cast<const char*>(path));
+    if (match) FcPatternDestroy(match);
+    FcPatternDestroy(pattern);
+    return QFileInfo::exists(file) ? file : QString();
 }
 
 } // namespace contarello
