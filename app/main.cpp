@@ -3,7 +3,7 @@
 #include "app/paths.h"
 #include "app/screens.h"
 #include "shell/firstpaint.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/form.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"

@@ -1,7 +1,7 @@
 #include "app/paths.h"
 #include "shell/qtservices.h"
 
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 
 #include <QDir>
 #include <QFileInfo>

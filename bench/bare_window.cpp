@@ -5,7 +5,7 @@
 //                                      with the program's fonts: what drawing that text costs.
 
 #include "shell/firstpaint.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/scale.h"
 
 #include <QApplication>

@@ -4,7 +4,7 @@
 // Run: build/contarello-soak [actions per part, 50000] [warm-up screen changes, 2000]
 
 #include "driver/engine.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/qtservices.h"
 
 #include <QApplication>

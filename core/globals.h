@@ -22,6 +22,10 @@ struct Modulo1 {
     int16_t Termine2 = 0;
     int16_t Meta = 0;
     int16_t AttendiBottone = 0; // True: wait for "avanti" after a right answer
+    // What the ordering worksheet takes from FormOrd while it is loaded: the numbers to a row, as its
+    // hidden Label3 says them, and the order asked, as its title bar says it.
+    QString OrdinaRiga = QStringLiteral("8");
+    QString OrdinaConsegna = QStringLiteral("Ordina i numeri dal minore al maggiore ");
 };
 
 } // namespace contarello

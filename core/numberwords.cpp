@@ -33,6 +33,10 @@ constexpr std::array<Chiusura, 4> kGruppi = {{
 
 } // namespace
 
+QString InParole(long long numero, Modulo1& g) {
+    return NumeroInParole(numero, g);
+}
+
 QString NumeroInParole(long long& n, Modulo1& g) {
     for (size_t i = 0; i < kParole.size(); ++i)
         g.ParoleNumeri[i] = kParole[i].toString();

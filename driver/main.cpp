@@ -3,7 +3,7 @@
 
 #include "driver/engine.h"
 #include "shell/controls.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/qtservices.h"
 
 #include <QApplication>

@@ -11,12 +11,10 @@ namespace contarello {
 
 namespace {
 
-constexpr int kPasso = 420;            // from one bead to the next one up
-constexpr int kLargoDecine = 540;      // the box of a tens bead; the bead is the circle inside
-constexpr int kLargoUnita = 435;       // the box of a units bead
-constexpr int kAltoPallina = 435;      // both beads are this round
-const QColor kRosso(0xff, 0x00, 0x00); // tens
-const QColor kBlu(0x00, 0x00, 0xff);   // units
+constexpr int kPasso = 420;       // from one bead to the next one up
+constexpr int kLargoDecine = 540; // the box of a tens bead; the bead is the circle inside
+constexpr int kLargoUnita = 435;  // the box of a units bead
+constexpr int kAltoPallina = 435; // both beads are this round
 
 // A solid bead with a darker edge, so that two touching beads still read as two.
 Shape* Pallina(Shape* s, QColor colore) {
@@ -47,14 +45,10 @@ QPixmap Spunta() {
     });
 }
 
-QString Parola(int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return NumeroInParole(n, g);
-}
-
 // The menu bar the three screens share; only the blanks after "Azzera conteggio" differ.
-FrameOptions Opzioni(const char* azzera, const char* scheda, FrameLayout layout) {
+FrameOptions Opzioni(const char* azzera, const char* scheda, FrameLayout layout, SetUp setUp) {
     FrameOptions o;
+    o.setUp = setUp;
     o.captions = {azzera, "Stampa scheda        ", "Informazioni          "};
     o.scheda = scheda;
     o.layout = layout;
@@ -63,10 +57,10 @@ FrameOptions Opzioni(const char* azzera, const char* scheda, FrameLayout layout)
 
 } // namespace
 
-// ---- AbacoScreen ----
+// ---- AbacusForm ----
 
-AbacoScreen::AbacoScreen(Program& program, int widthTwips, int heightTwips, FrameOptions options,
-                         const AbacoGeometria& at)
+AbacusForm::AbacusForm(Program& program, int widthTwips, int heightTwips, FrameOptions options,
+                       const AbacoGeometria& at)
     : ExerciseForm(program, Variante::B, 0, widthTwips, heightTwips, options) {
     FiloAbaco.set(1, line(indexed(QStringLiteral("FiloAbaco"), 1), at.xDecine, at.yDecine1, at.xDecine,
                           at.yDecine2, Qt::black, 3));
@@ -85,16 +79,16 @@ AbacoScreen::AbacoScreen(Program& program, int widthTwips, int heightTwips, Fram
     }
 }
 
-QJsonObject AbacoScreen::fields() const {
+QJsonObject AbacusForm::fields() const {
     return {{"NumeroUnita", NumeroUnita}, {"NumeroDecine", NumeroDecine}};
 }
 
-void AbacoScreen::NascondiPalline() {
+void AbacusForm::NascondiPalline() {
     MostraPalline(pal_da, 0);
     MostraPalline(pal_u, 0);
 }
 
-void AbacoScreen::MostraPalline(ControlArray<Shape>& filo, int n) {
+void AbacusForm::MostraPalline(ControlArray<Shape>& filo, int n) {
     for (auto& [i, s] : filo)
         s->setVisible(i < n);
 }
@@ -118,10 +112,10 @@ constexpr AbacoGeometria kForm99a{2565, 1575, 6015, 4305, 1680, 6120, 5670, 5730
 } // namespace
 
 Form99a::Form99a(Program& program)
-    : AbacoScreen(program, kLargo99a, 8040, Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout()),
-                  kForm99a) {
+    : AbacusForm(program, kLargo99a, 8040,
+                 Opzioni("Azzera conteggio        ", "formSt99a", Form99aLayout(), SetUp::OnLoad), kForm99a) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 1035, 1020, 4800, 480, Arial(18));
-    EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
+    EtichettaNumero->setBackColor(kCiano);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
 
     // Under each wire its button; only a mouse button acts on them, so they take no focus.
@@ -151,6 +145,7 @@ Form99a::Form99a(Program& program)
     BottoneConferma = button(QStringLiteral("BottoneConferma"), QStringLiteral("Conferma"), kColonna, 3300,
                              1575, 1215, Arial(12));
     BottoneConferma->setPicture(Spunta());
+    RispondeCon(BottoneConferma);
     BottoneConferma->Click = [this] { BottoneConferma_Click(); };
 
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuMassimo"), QStringLiteral("Numero massimo        "),
@@ -170,18 +165,13 @@ Form99a::Form99a(Program& program)
 }
 
 QJsonObject Form99a::fields() const {
-    QJsonObject f = AbacoScreen::fields();
+    QJsonObject f = AbacusForm::fields();
     f[QStringLiteral("InCifre")] = InCifre;
     return f;
 }
 
-// All of the set-up is here: a return from the worksheet finds the question as it was left.
-void Form99a::Load() {
-    ExerciseForm::Load();
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
+void Form99a::Prepara() {
     NumeroUnita = NumeroDecine = InCifre = 0;
-    NuovaDomanda();
 }
 
 void Form99a::NuovaDomanda() {
@@ -190,7 +180,7 @@ void Form99a::NuovaDomanda() {
     NascondiPalline();
     g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
     EtichettaNumero->setCaption(InCifre != 0 ? Str(g.NumeroEsatto) + QStringLiteral("    ")
-                                             : Parola(g.NumeroEsatto, g));
+                                             : InParole(g.NumeroEsatto, g));
 }
 
 void Form99a::Infila(ControlArray<Shape>& filo, int16_t& quante, int button) {
@@ -206,19 +196,9 @@ void Form99a::Infila(ControlArray<Shape>& filo, int16_t& quante, int button) {
     }
 }
 
+// After a wrong answer the beads and the question stay, for the child to put right.
 void Form99a::BottoneConferma_Click() {
-    if (NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto) {
-        RispostaEsattaPoiAvanti([this] { BottoneConferma->setEnabled(false); });
-    } else {
-        // The beads and the question stay, for the child to put right.
-        RispostaErrata();
-    }
-}
-
-void Form99a::BottoneAvanti_Click() {
-    BottoneConferma->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    Rispondi(NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto);
 }
 
 } // namespace contarello

@@ -16,14 +16,13 @@ struct AbacoGeometria {
 };
 
 // The frame, two wires and nine beads on each; the beads are only shown and hidden.
-class AbacoScreen : public ExerciseForm {
+class AbacusForm : public ExerciseForm {
     Q_OBJECT
 public:
     QJsonObject fields() const override;
 
 protected:
-    AbacoScreen(Program& app, int widthTwips, int heightTwips, FrameOptions options,
-                const AbacoGeometria& at);
+    AbacusForm(Program& app, int widthTwips, int heightTwips, FrameOptions options, const AbacoGeometria& at);
 
     // All eighteen beads hidden.
     void NascondiPalline();
@@ -38,16 +37,17 @@ protected:
 };
 
 // The number asked in words or digits; the child threads the beads and confirms.
-class Form99a : public AbacoScreen {
+class Form99a : public AbacusForm {
     Q_OBJECT
 public:
     explicit Form99a(Program& app);
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
+    // All of the set-up is done as the screen loads: a return from the worksheet finds the question
+    // as it was left.
+    void Prepara() override;
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
     // A left button threads a bead on the wire, any other takes the last one off.
@@ -67,7 +67,7 @@ private:
 };
 
 // Form99b and Form99b1: the beads of a number drawn, the child writes it.
-struct AbacoMember {
+struct AbacusReaderMember {
     const char* form;
     const char* consegna; // the prompt left of the box
     bool randomize;       // Form99b1 seeds the sequence again as it opens
@@ -80,23 +80,21 @@ struct AbacoMember {
     int (*filtro)(int& keyAscii);
 };
 
-const AbacoMember* FindAbacoMember(const QString& form);
+// The three abacus screens, each under its own name.
+FormList AbacusForms();
 
-class AbacoForm : public AbacoScreen {
+class AbacusReaderForm : public AbacusForm {
     Q_OBJECT
 public:
-    AbacoForm(Program& app, const AbacoMember& member);
-    void Load() override;
-    void Activate() override;
+    AbacusReaderForm(Program& app, const AbacusReaderMember& member);
 
 protected:
+    void Prepara() override;
+    // Each return to the screen brings a new number.
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
-    void Rispondi();
-
-    const AbacoMember& member_;
+    const AbacusReaderMember& member_;
     Label* Label3;
     TextBox* TestoNumero;
 };

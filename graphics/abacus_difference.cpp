@@ -24,8 +24,8 @@ FrameLayout LayoutDifferenza() {
 
 } // namespace
 
-AbacoDifferenzaForm::AbacoDifferenzaForm(Program& program, const AbacoOpMember& member)
-    : AbacoOpForm(program, member, 9600, 6960, LayoutDifferenza()) {
+AbacusDifferenceForm::AbacusDifferenceForm(Program& program, const AbacusOpMember& member)
+    : AbacusOpForm(program, member, 9600, 6960, LayoutDifferenza()) {
     CreaDomanda(2940, 3120);
 
     CreaAbaco({1365, 5805, 5460, 5415, 1680, 2100, false});
@@ -61,17 +61,17 @@ AbacoDifferenzaForm::AbacoDifferenzaForm(Program& program, const AbacoOpMember& 
     Bot_ricomincia->Click = [this] { Ricomincia(); };
 }
 
-void AbacoDifferenzaForm::Consegna() {
+void AbacusDifferenceForm::Consegna() {
     Label5->setCaption(QStringLiteral("inserisci il numero ") + Str(g.Meta) +
                        QStringLiteral(" premendo i bottoni +da  e +u"));
 }
 
-void AbacoDifferenzaForm::NuovaDomanda() {
+void AbacusDifferenceForm::NuovaDomanda() {
     CaricaColori();
     Text1->setVisible(false);
     AzzeraAbaco();
-    const OperazioneAbaco op =
-        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : TiraSenzaCambio(app.rnd);
+    const Operazione op =
+        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
     g.Meta = op.Meta;
     g.Termine1 = op.Termine1;
     g.Termine2 = op.Termine2;
@@ -80,7 +80,7 @@ void AbacoDifferenzaForm::NuovaDomanda() {
     Consegna();
 }
 
-void AbacoDifferenzaForm::Controlla() {
+void AbacusDifferenceForm::Controlla() {
     // Fase stays 2 once the first number stood: the beads moved away and back open the box anew.
     const int n = Valore();
     if (Fase == 1 && n == g.Meta) {
@@ -97,7 +97,7 @@ void AbacoDifferenzaForm::Controlla() {
     }
 }
 
-void AbacoDifferenzaForm::BottoneCambio_Click() {
+void AbacusDifferenceForm::BottoneCambio_Click() {
     if (NumeroUnita > 9 || NumeroDecine == 0) {
         RispostaErrata();
         return;
@@ -109,23 +109,9 @@ void AbacoDifferenzaForm::BottoneCambio_Click() {
     MostraPalline();
 }
 
-void AbacoDifferenzaForm::Text1_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Text1->Text()) == g.Termine1)
-        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
-    else
-        RispostaErrata();
-}
-
-void AbacoDifferenzaForm::Ricomincia() {
+void AbacusDifferenceForm::Ricomincia() {
     AzzeraAbaco();
     Consegna();
-}
-
-void AbacoDifferenzaForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 } // namespace contarello

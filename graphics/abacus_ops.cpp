@@ -12,27 +12,14 @@ namespace contarello {
 
 namespace {
 
-// A draw that came out unfit is drawn again, but never without end: a generator stuck on unfit
-// values must not freeze the screen. Past this many attempts the nearest fit value is taken.
-constexpr int kTentativi = 20;
-
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-
-constexpr AbacoOpMember kSomme[] = {
+constexpr AbacusOpMember kSomme[] = {
     {"Form99c", 15, true},
     {"Form99c1", 16, false},
 };
-constexpr AbacoOpMember kDifferenze[] = {
+constexpr AbacusOpMember kDifferenze[] = {
     {"Form99d", 17, true},
     {"Form99d1", 18, false},
 };
-
-template <size_t N> const AbacoOpMember* trova(const AbacoOpMember (&table)[N], const QString& form) {
-    for (const AbacoOpMember& m : table)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
-}
 
 // A red arrow across the button: towards the tens wire, or away from it towards the units.
 QPixmap FrecciaRossa(bool aSinistra) {
@@ -58,43 +45,8 @@ QPixmap FrecciaRossa(bool aSinistra) {
 
 } // namespace
 
-OperazioneAbaco TiraConCambio(Random& rnd, int numeroMassimo) {
-    OperazioneAbaco op;
-    // Under a limit of 21 the sum would fall below 10; the smallest sum stands in for it.
-    op.Meta = int16_t(Draw(rnd, std::max(numeroMassimo - 11, 1), 10));
-    op.Termine1 = int16_t(Draw(rnd, op.Meta - 10, 5));
-    op.Termine2 = int16_t(op.Meta - op.Termine1);
-    return op;
-}
-
-OperazioneAbaco TiraSenzaCambio(Random& rnd) {
-    // A Termine1 above 0 with no digit above Meta's needs a digit of Meta of 2 or more: 0, 1, 10 and
-    // 11 have none, and are drawn again.
-    int D = 2, U = 5;
-    for (int i = 0; i < kTentativi; ++i) {
-        const int d = Draw(rnd, 10), u = Draw(rnd, 10);
-        if (d >= 2 || u >= 2) {
-            D = d;
-            U = u;
-            break;
-        }
-    }
-    OperazioneAbaco op;
-    op.Meta = int16_t(10 * D + U);
-    op.Termine1 = 0;
-    for (int i = 0; i < kTentativi && op.Termine1 == 0; ++i)
-        op.Termine1 = int16_t(10 * Draw(rnd, D) + Draw(rnd, U));
-    if (op.Termine1 == 0) op.Termine1 = int16_t(D >= 2 ? 10 * (D - 1) : U - 1);
-    op.Termine2 = int16_t(op.Meta - op.Termine1);
-    return op;
-}
-
-const AbacoOpMember* FindAbacoSommaMember(const QString& form) {
-    return trova(kSomme, form);
-}
-
-const AbacoOpMember* FindAbacoDifferenzaMember(const QString& form) {
-    return trova(kDifferenze, form);
+FormList AbacusOpForms() {
+    return Join({Members<AbacusSumForm>(kSomme), Members<AbacusDifferenceForm>(kDifferenze)});
 }
 
 namespace {
@@ -102,26 +54,28 @@ FrameOptions Opzioni(FrameLayout layout) {
     FrameOptions o;
     o.captions = kMenuLargo;
     o.layout = layout;
+    o.setUp = SetUp::OnLoad;
     return o;
 }
 } // namespace
 
-AbacoOpForm::AbacoOpForm(Program& program, const AbacoOpMember& member, int widthTwips, int heightTwips,
-                         FrameLayout layout)
+AbacusOpForm::AbacusOpForm(Program& program, const AbacusOpMember& member, int widthTwips, int heightTwips,
+                           FrameLayout layout)
     : ExerciseForm(program, Variante::B, member.numeroScheda, widthTwips, heightTwips, Opzioni(layout)),
       member_(member) {}
 
-void AbacoOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
+void AbacusOpForm::CreaDomanda(int larghezzaDomanda, int leftRisultato) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 120, 120, larghezzaDomanda, 615,
                             SansSerif(18, true));
     EtichettaNumero->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    Text1 = textBox(QStringLiteral("Text1"), leftRisultato, 120, 1335, 615, Arial(18));
-    Text1->setAlignment(Qt::AlignCenter);
+    // Enter alone answers: an empty box reads as 0.
+    Text1 = CasellaRisposta(QStringLiteral("Text1"), {leftRisultato, 120, 1335, 615}, Arial(18),
+                            [this](const QString& testo) { return Val(testo) == RispostaAttesa(); },
+                            {.ancheVuota = true});
     Text1->setVisible(false);
-    Text1->KeyUp = [this](int keyCode, int) { Text1_KeyUp(keyCode); };
 }
 
-void AbacoOpForm::CreaAbaco(const Geometria& geo) {
+void AbacusOpForm::CreaAbaco(const Geometria& geo) {
     auto filo = [&](int i, int x) {
         FiloAbaco.set(i, line(indexed(QStringLiteral("FiloAbaco"), i), x, geo.filoAlto, x, geo.filoBasso,
                               Qt::black, 3));
@@ -167,21 +121,14 @@ void AbacoOpForm::CreaAbaco(const Geometria& geo) {
     }
 }
 
-void AbacoOpForm::Load() {
-    ExerciseForm::Load();
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
-    NuovaDomanda();
-}
-
-QJsonObject AbacoOpForm::fields() const {
+QJsonObject AbacusOpForm::fields() const {
     return {{"NumeroUnita", NumeroUnita},
             {"NumeroDecine", NumeroDecine},
             {"Fase", Fase},
             {"NumeroEsatto", RispostaAttesa()}};
 }
 
-void AbacoOpForm::MostraPalline() {
+void AbacusOpForm::MostraPalline() {
     // The beads always stand from the bottom of their wire up, as many as counted: after a change the
     // units left over come down the first wire, so a bead taken off is always one that shows.
     for (auto& [i, s] : pal_da)
@@ -192,7 +139,7 @@ void AbacoOpForm::MostraPalline() {
     Label4->setCaption(Str(NumeroDecine));
 }
 
-void AbacoOpForm::AzzeraAbaco() {
+void AbacusOpForm::AzzeraAbaco() {
     Fase = 1;
     NumeroUnita = 0;
     NumeroDecine = 0;
@@ -200,35 +147,35 @@ void AbacoOpForm::AzzeraAbaco() {
     if (BottoneCambio) BottoneCambio->setEnabled(true);
 }
 
-bool AbacoOpForm::AggiungiDecina() {
+bool AbacusOpForm::AggiungiDecina() {
     if (NumeroDecine >= 9) return false;
     ++NumeroDecine;
     MostraPalline();
     return true;
 }
 
-bool AbacoOpForm::TogliDecina() {
+bool AbacusOpForm::TogliDecina() {
     if (NumeroDecine <= 0) return false;
     --NumeroDecine;
     MostraPalline();
     return true;
 }
 
-bool AbacoOpForm::AggiungiUnita() {
+bool AbacusOpForm::AggiungiUnita() {
     if (NumeroUnita >= LimiteUnita()) return false;
     ++NumeroUnita;
     MostraPalline();
     return true;
 }
 
-bool AbacoOpForm::TogliUnita() {
+bool AbacusOpForm::TogliUnita() {
     if (NumeroUnita <= 0) return false;
     --NumeroUnita;
     MostraPalline();
     return true;
 }
 
-void AbacoOpForm::ApriRisultato() {
+void AbacusOpForm::ApriRisultato() {
     Text1->setText(QString());
     Text1->setVisible(true);
     if (Text1->isEnabled()) Text1->SetFocus();

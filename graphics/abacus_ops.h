@@ -4,45 +4,29 @@
 // the numbers ask for it, and writes the result. Four screens, two operations, each with and
 // without the change.
 
+#include "core/draws.h"
 #include "core/globals.h"
 #include "shell/exercise.h"
 
 namespace contarello {
 
-class Random;
-
-// The numbers of one operation: the sum or the first number of a subtraction, and its two parts.
-struct OperazioneAbaco {
-    int16_t Meta = 0;
-    int16_t Termine1 = 0;
-    int16_t Termine2 = 0;
-};
-
-// The draw of the screens with the change: Meta from 10 to the limit less 2, Termine1 from 5 to
-// Meta less 6. The units are free, so a change is due only on some questions.
-OperazioneAbaco TiraConCambio(Random& rnd, int numeroMassimo);
-// The draw of the screens without it: every digit of Termine1 at most that of Meta, neither number 0,
-// so the units never pass 9 in an addition and never run short in a subtraction.
-OperazioneAbaco TiraSenzaCambio(Random& rnd);
-
-struct AbacoOpMember {
+struct AbacusOpMember {
     const char* form;
     int16_t numeroScheda;
     bool cambio; // a second units wire and the "Cambio" button
 };
 
-const AbacoOpMember* FindAbacoSommaMember(const QString& form);
-const AbacoOpMember* FindAbacoDifferenzaMember(const QString& form);
+// The four screens, each under its own name.
+FormList AbacusOpForms();
 
 // What both operations share: the wires, the beads shown from their counts, the counts beside the
 // wires, the result box, the change button and "Ricomincia".
-class AbacoOpForm : public ExerciseForm {
+class AbacusOpForm : public ExerciseForm {
     Q_OBJECT
 public:
-    AbacoOpForm(Program& app, const AbacoOpMember& member, int widthTwips, int heightTwips,
-                FrameLayout layout);
+    AbacusOpForm(Program& app, const AbacusOpMember& member, int widthTwips, int heightTwips,
+                 FrameLayout layout);
 
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
@@ -73,11 +57,10 @@ protected:
 
     virtual void Controlla() = 0;
     virtual void BottoneCambio_Click() = 0;
-    virtual void Text1_KeyUp(int keyCode) = 0;
     // The number the result box expects: the sum, or what is left.
     virtual int RispostaAttesa() const = 0;
 
-    const AbacoOpMember& member_;
+    const AbacusOpMember& member_;
     Label* EtichettaNumero;
     TextBox* Text1;
     Label* Label3; // the units counted
@@ -96,17 +79,15 @@ protected:
     int16_t Fase = 1;
 };
 
-class AbacoSommaForm : public AbacoOpForm {
+class AbacusSumForm : public AbacusOpForm {
     Q_OBJECT
 public:
-    AbacoSommaForm(Program& app, const AbacoOpMember& member);
+    AbacusSumForm(Program& app, const AbacusOpMember& member);
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override { NuovaDomanda(); }
     void Controlla() override;
     void BottoneCambio_Click() override;
-    void Text1_KeyUp(int keyCode) override;
     int RispostaAttesa() const override { return g.Meta; }
 
 private:
@@ -115,17 +96,15 @@ private:
     Label* Label6;
 };
 
-class AbacoDifferenzaForm : public AbacoOpForm {
+class AbacusDifferenceForm : public AbacusOpForm {
     Q_OBJECT
 public:
-    AbacoDifferenzaForm(Program& app, const AbacoOpMember& member);
+    AbacusDifferenceForm(Program& app, const AbacusOpMember& member);
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
     void Controlla() override;
     void BottoneCambio_Click() override;
-    void Text1_KeyUp(int keyCode) override;
     int RispostaAttesa() const override { return g.Termine1; }
 
 private:

@@ -18,11 +18,10 @@ bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
 
 // One spelling per number, in capitals and with no accent; blanks around it are forgiven.
 bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return Trim(testo) == NumeroInParole(n, g);
+    return Trim(testo) == InParole(numero, g);
 }
 
-constexpr std::array<AbacoMember, 2> kMembers = {{
+constexpr std::array<AbacusReaderMember, 2> kMembers = {{
     {"Form99b", "scrivi il numero in cifre", false, false, CifreGiuste, nullptr},
     {"Form99b1", "scrivi il numero in lettere", true, true, ParolaGiusta, FiltroMaiuscole},
 }};
@@ -52,48 +51,30 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const AbacoMember* FindAbacoMember(const QString& form) {
-    for (const AbacoMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList AbacusForms() {
+    return Join({{Screen<Form99a>("Form99a")}, Members<AbacusReaderForm>(kMembers)});
 }
 
-AbacoForm::AbacoForm(Program& program, const AbacoMember& member)
-    : AbacoScreen(program, 9495, 6510, Opzioni(), kGeometria), member_(member) {
+AbacusReaderForm::AbacusReaderForm(Program& program, const AbacusReaderMember& member)
+    : AbacusForm(program, 9495, 6510, Opzioni(), kGeometria), member_(member) {
     Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 240, 5280, 3855, 375,
                    Arial(12));
     Label3->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    TestoNumero = textBox(QStringLiteral("TestoNumero"), 4215, 5160, 4800, 615, Arial(18));
-    TestoNumero->setAlignment(Qt::AlignCenter);
-    if (member.filtro) TestoNumero->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
-    if (member.invioAlRilascio) {
-        TestoNumero->KeyUp = [this](int keyCode, int) {
-            if (keyCode == 13 && !TestoNumero->Text().isEmpty()) Rispondi();
-        };
-    } else {
-        // Every press counts, the repeats of a held key too; an empty box is read as 0.
-        TestoNumero->KeyPress = [this](int& keyAscii) {
-            if (keyAscii == 13) Rispondi();
-        };
-    }
+    // A wrong text stays in the box, for the child to put right.
+    TestoNumero =
+        CasellaRisposta(QStringLiteral("TestoNumero"), {4215, 5160, 4800, 615}, Arial(18),
+                        [this](const QString& testo) { return member_.giusta(testo, g.NumeroEsatto, g); },
+                        {.alRilascio = member.invioAlRilascio, .filtro = member.filtro});
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuMassimo"), QStringLiteral("Numero massimo        "),
                                  mnuStampa);
 }
 
-void AbacoForm::Load() {
-    ExerciseForm::Load();
+void AbacusReaderForm::Prepara() {
     if (member_.randomize) app.rnd.Randomize();
-    AzzeraConteggio();
     NumeroUnita = NumeroDecine = 0;
 }
 
-// Each return to the screen brings a new number.
-void AbacoForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    NuovaDomanda();
-}
-
-void AbacoForm::NuovaDomanda() {
+void AbacusReaderForm::NuovaDomanda() {
     CaricaColori();
     TestoNumero->setText(QString());
     NumeroUnita = NumeroDecine = 0;
@@ -105,22 +86,6 @@ void AbacoForm::NuovaDomanda() {
     MostraPalline(pal_da, NumeroDecine);
     MostraPalline(pal_u, NumeroUnita);
     if (TestoNumero->isEnabled()) TestoNumero->SetFocus();
-}
-
-void AbacoForm::Rispondi() {
-    if (member_.giusta(TestoNumero->Text(), g.NumeroEsatto, g)) {
-        RispostaEsattaPoiAvanti([this] { TestoNumero->setEnabled(false); });
-    } else {
-        // The text stays in the box, for the child to put right.
-        RispostaErrata();
-        if (TestoNumero->isEnabled()) TestoNumero->SetFocus();
-    }
-}
-
-void AbacoForm::BottoneAvanti_Click() {
-    TestoNumero->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 } // namespace contarello

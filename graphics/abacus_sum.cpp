@@ -25,8 +25,8 @@ FrameLayout LayoutSomma() {
 
 } // namespace
 
-AbacoSommaForm::AbacoSommaForm(Program& program, const AbacoOpMember& member)
-    : AbacoOpForm(program, member, 9720, 7080, LayoutSomma()) {
+AbacusSumForm::AbacusSumForm(Program& program, const AbacusOpMember& member)
+    : AbacusOpForm(program, member, 9720, 7080, LayoutSomma()) {
     CreaDomanda(3420, 3600);
 
     CreaAbaco({1260, 5700, 5355, 5310, 1470, 0, true});
@@ -56,20 +56,20 @@ AbacoSommaForm::AbacoSommaForm(Program& program, const AbacoOpMember& member)
     Bot_ricomincia->Click = [this] { Ricomincia(); };
 }
 
-void AbacoSommaForm::Consegna() {
+void AbacusSumForm::Consegna() {
     Label5->setCaption(QStringLiteral("inserisci il numero ") + Str(g.Termine1) +
                        QStringLiteral(" nell'abaco"));
 }
 
-void AbacoSommaForm::NuovaDomanda() {
+void AbacusSumForm::NuovaDomanda() {
     Text1->setEnabled(true);
     Text1->setVisible(false);
     Fase = 1;
     BottoneAvanti->setEnabled(false);
     CaricaColori();
     AzzeraAbaco();
-    const OperazioneAbaco op =
-        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : TiraSenzaCambio(app.rnd);
+    const Operazione op =
+        member_.cambio ? TiraConCambio(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
     g.Meta = op.Meta;
     g.Termine1 = op.Termine1;
     g.Termine2 = op.Termine2;
@@ -78,7 +78,7 @@ void AbacoSommaForm::NuovaDomanda() {
     Consegna();
 }
 
-void AbacoSommaForm::Controlla() {
+void AbacusSumForm::Controlla() {
     // One call may pass several steps: with no change due, the sum reached goes straight to the result.
     const int n = Valore();
     if (Fase == 1 && n == g.Termine1) {
@@ -100,7 +100,7 @@ void AbacoSommaForm::Controlla() {
     if (Fase == 4 && n == g.Meta) ApriRisultato();
 }
 
-void AbacoSommaForm::BottoneCambio_Click() {
+void AbacusSumForm::BottoneCambio_Click() {
     // Nine tens are all the wire holds: with them up there is no tens bead to change the units into.
     if (NumeroUnita < 10 || NumeroDecine >= 9) {
         RispostaErrata();
@@ -113,15 +113,7 @@ void AbacoSommaForm::BottoneCambio_Click() {
     Controlla();
 }
 
-void AbacoSommaForm::Text1_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Text1->Text()) == g.Meta)
-        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
-    else
-        RispostaErrata();
-}
-
-void AbacoSommaForm::Ricomincia() {
+void AbacusSumForm::Ricomincia() {
     Text1->setEnabled(true);
     AzzeraAbaco();
     Text1->setText(QString());

@@ -7,36 +7,6 @@
 
 namespace contarello {
 
-Operazione OperazioneLibera(Random& rnd, int numeroMassimo) {
-    Operazione o;
-    o.Meta = int16_t(Draw(rnd, numeroMassimo - 20, 20));
-    o.Termine1 = int16_t(Draw(rnd, o.Meta - 10, 5));
-    o.Termine2 = int16_t(o.Meta - o.Termine1);
-    return o;
-}
-
-namespace {
-// Tries of each of the two draws. An unfit draw comes at worst one time in two, so these many in a
-// row only come from a random source that has stopped being random.
-constexpr int kProve = 64;
-} // namespace
-
-Operazione OperazioneSenzaCambio(Random& rnd) {
-    for (int provaMeta = 0; provaMeta < kProve; ++provaMeta) {
-        const int D = Draw(rnd, 10), U = Draw(rnd, 10);
-        // 0 is no operation; 1, 10 and 11 have digits of 0 and 1 only, so no first number other
-        // than 0 fits under them.
-        if (D <= 1 && U <= 1) continue;
-        for (int prova = 0; prova < kProve; ++prova) {
-            const int d = Draw(rnd, D), u = Draw(rnd, U);
-            if (10 * d + u == 0) continue;
-            const int16_t meta = int16_t(10 * D + U), termine1 = int16_t(10 * d + u);
-            return {meta, termine1, int16_t(meta - termine1)};
-        }
-    }
-    return kOperazioneDiRiserva;
-}
-
 namespace {
 
 constexpr std::array kAddizioni{
@@ -48,12 +18,6 @@ constexpr std::array kSottrazioni{
     LongsMember{"FormGrafMeno1", 18, false, 120},
 };
 
-template <class Table> const LongsMember* Find(const Table& table, const QString& form) {
-    for (const LongsMember& m : table)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
-}
-
 // The counters, the faces, "Ricomincia" and "avanti" in a column right of the material.
 FrameOptions Opzioni() {
     FrameOptions o;
@@ -64,31 +28,29 @@ FrameOptions Opzioni() {
     o.layout.errati = {8520, 2040, 1095, 495};
     o.layout.facce = {8160, 2640, 855, 750};
     o.layout.avanti = {7680, 4800, 1575, 1215};
+    o.avvisoErrata = "Controlla esattamente il risultato";
     return o;
 }
 
 } // namespace
 
-const LongsMember* FindLongsAddMember(const QString& form) {
-    return Find(kAddizioni, form);
+FormList LongsForms() {
+    return Join({Members<LongsAddForm>(kAddizioni), Members<LongsSubForm>(kSottrazioni)});
 }
 
-const LongsMember* FindLongsSubMember(const QString& form) {
-    return Find(kSottrazioni, form);
-}
-
-LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Width, int label3Height,
-                     int risultatoHeight)
+LongsOpForm::LongsOpForm(Program& program, const LongsMember& member, int label3Width, int label3Height,
+                         int risultatoHeight)
     : ExerciseForm(program, Variante::B, member.numeroScheda, 9840, 6360, Opzioni()), member_(member) {
     EtNumero = label(QStringLiteral("EtNumero"), QString(), 360, 240, 2655, 735, Arial(24));
-    Risultato =
-        textBox(QStringLiteral("Risultato"), 3120, member.risultatoTop, 1455, risultatoHeight, Arial(24));
-    Risultato->setAlignment(Qt::AlignCenter);
+    // Only the typed result counts. Only Enter judges; what stands in the box is read as a number, so
+    // an empty box or letters are 0.
+    Risultato = CasellaRisposta(
+        QStringLiteral("Risultato"), {3120, member.risultatoTop, 1455, risultatoHeight}, Arial(24),
+        [this](const QString& testo) { return Val(testo) == RisultatoAtteso(); }, {.ancheVuota = true});
     Risultato->setVisible(false);
-    Risultato->KeyUp = [this](int keyCode, int) { Risultato_KeyUp(keyCode); };
 
     Label3 = label(QStringLiteral("Label3"), QString(), 5040, 120, label3Width, label3Height, Arial(12));
-    Label3->setBackColor(QColor(0x00, 0xff, 0xff));
+    Label3->setBackColor(kCiano);
 
     BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), 7680, 3540,
                                1575, 1095, Arial(9.75));
@@ -96,7 +58,7 @@ LongsForm::LongsForm(Program& program, const LongsMember& member, int label3Widt
     BottoneRicomincia->Click = [this] { BottoneRicomincia_Click(); };
 }
 
-Label* LongsForm::Pezzo(const QString& name, int left, int top, int width, QColor colour) {
+Label* LongsOpForm::Pezzo(const QString& name, int left, int top, int width, QColor colour) {
     Label* l = label(name, QString(), left, top, width, 255, Arial(8));
     l->setBackColor(colour);
     l->setFrameShape(QFrame::Box); // an edge, so that pieces side by side are told apart
@@ -104,8 +66,8 @@ Label* LongsForm::Pezzo(const QString& name, int left, int top, int width, QColo
     return l;
 }
 
-CommandButton* LongsForm::BottoneMateriale(const char* name, const char* caption, int left, int top,
-                                           QColor colour) {
+CommandButton* LongsOpForm::BottoneMateriale(const char* name, const char* caption, int left, int top,
+                                             QColor colour) {
     CommandButton* b =
         button(QString::fromUtf8(name), QString::fromUtf8(caption), left, top, 975, 495, Arial(9.75));
     b->setBackColor(colour);
@@ -114,23 +76,7 @@ CommandButton* LongsForm::BottoneMateriale(const char* name, const char* caption
     return b;
 }
 
-void LongsForm::Load() {
-    ExerciseForm::Load();
-    AzzeraConteggio();
-}
-
-void LongsForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    NuovaDomanda();
-}
-
-void LongsForm::BottoneAvanti_Click() {
-    Risultato->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
-}
-
-void LongsForm::EstraiOperazione() {
+void LongsOpForm::EstraiOperazione() {
     const Operazione o =
         member_.cambio ? OperazioneLibera(app.rnd, g.NumeroMassimo) : OperazioneSenzaCambio(app.rnd);
     g.Meta = o.Meta;
@@ -138,23 +84,11 @@ void LongsForm::EstraiOperazione() {
     g.Termine2 = o.Termine2;
 }
 
-void LongsForm::InRisultato() {
+void LongsOpForm::InRisultato() {
     Consegna("Inserisci il risultato.");
     Risultato->setVisible(true);
     Risultato->setText(QString());
     if (Risultato->isEnabled()) Risultato->SetFocus();
-}
-
-// Only Enter judges; what stands in the box is read as a number, so an empty box or letters are 0.
-void LongsForm::Risultato_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Risultato->Text()) == RisultatoAtteso()) {
-        RispostaEsattaPoiAvanti([this] { Risultato->setEnabled(false); });
-        return;
-    }
-    RispostaErrata();
-    app.dialogs.MsgBox(QStringLiteral("Controlla esattamente il risultato"), vbCritical, kTitolo);
-    SuonoErrato(app);
 }
 
 } // namespace contarello

@@ -5,28 +5,10 @@
 // types the result. Only the typed result counts. Four screens: each operation with its change and
 // without it.
 
+#include "core/draws.h"
 #include "shell/exercise.h"
 
 namespace contarello {
-
-class Random;
-
-// The three numbers of one operation: for an addition Termine1 + Termine2 = Meta, for a
-// subtraction Meta - Termine1 = Termine2.
-struct Operazione {
-    int16_t Meta = 0, Termine1 = 0, Termine2 = 0;
-};
-
-// Meta from 20 to below the limit, Termine1 from 5 to Meta - 6; the digits fall as they may, so a
-// change is due on some questions only.
-Operazione OperazioneLibera(Random& rnd, int numeroMassimo);
-// Each digit of Termine1 below that of Meta in its place, or 0 where that one is 0: no change is
-// ever due. Meta and Termine1 are never 0; a Meta that has no such Termine1 (1, 10, 11) is drawn
-// again. The repetitions are bounded: a random source that keeps giving the same unfit values ends
-// on a fixed operation instead of for ever.
-Operazione OperazioneSenzaCambio(Random& rnd);
-// What OperazioneSenzaCambio gives when its tries run out.
-constexpr Operazione kOperazioneDiRiserva{25, 12, 13};
 
 struct LongsMember {
     const char* form;
@@ -35,21 +17,17 @@ struct LongsMember {
     int risultatoTop; // where the result box stands
 };
 
-const LongsMember* FindLongsAddMember(const QString& form);
-const LongsMember* FindLongsSubMember(const QString& form);
+// The four screens, each under its own name.
+FormList LongsForms();
 
 // What the four screens share: the operation, the instruction, the result box, "Ricomincia".
-class LongsForm : public ExerciseForm {
+class LongsOpForm : public ExerciseForm {
     Q_OBJECT
 public:
-    LongsForm(Program& app, const LongsMember& member, int label3Width, int label3Height,
-              int risultatoHeight);
-
-    void Load() override;
-    void Activate() override;
+    LongsOpForm(Program& app, const LongsMember& member, int label3Width, int label3Height,
+                int risultatoHeight);
 
 protected:
-    void BottoneAvanti_Click() override;
     virtual void BottoneRicomincia_Click() = 0;
     // The number the typed result must be.
     virtual int16_t RisultatoAtteso() const = 0;
@@ -68,13 +46,10 @@ protected:
     TextBox* Risultato;
     Label* Label3;
     CommandButton* BottoneRicomincia;
-
-private:
-    void Risultato_KeyUp(int keyCode);
 };
 
 // Addition: two rows, one for each addend, and a strip between them where the change puts its long.
-class LongsAddForm : public LongsForm {
+class LongsAddForm : public LongsOpForm {
     Q_OBJECT
 public:
     LongsAddForm(Program& app, const LongsMember& member);
@@ -104,7 +79,7 @@ private:
 
 // Subtraction: one row for the first number, and on the screen with the change a strip for the ten
 // squares a long turns into.
-class LongsSubForm : public LongsForm {
+class LongsSubForm : public LongsOpForm {
     Q_OBJECT
 public:
     LongsSubForm(Program& app, const LongsMember& member);

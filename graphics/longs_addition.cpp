@@ -6,13 +6,8 @@
 
 namespace contarello {
 
-namespace {
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-} // namespace
-
 LongsAddForm::LongsAddForm(Program& program, const LongsMember& member)
-    : LongsForm(program, member, 2895, 975, 735) {
+    : LongsOpForm(program, member, 2895, 975, 735) {
     BotDecine1 = BottoneMateriale("BotDecine1", "Decine", 6120, 1680, kRosso);
     BotUnita1 = BottoneMateriale("BotUnita1", "Unità", 6120, 2400, kBlu);
     BotDecine2 = BottoneMateriale("BotDecine2", "Decine", 6120, 4200, kRosso);

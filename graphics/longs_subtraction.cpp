@@ -6,13 +6,8 @@
 
 namespace contarello {
 
-namespace {
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-} // namespace
-
 LongsSubForm::LongsSubForm(Program& program, const LongsMember& member)
-    : LongsForm(program, member, 4455, 1215, 975) {
+    : LongsOpForm(program, member, 4455, 1215, 975) {
     BotDecine1 = BottoneMateriale("BotDecine1", "Decine", 6240, 2400, kRosso);
     BotUnita1 = BottoneMateriale("BotUnita1", "Unità", 6240, 3120, kBlu);
     BotDecine1->Click = [this] { Aggiungi(Decina1, NumeroDecine); };

@@ -14,16 +14,14 @@ constexpr int kLarghezza = 11520, kAltezza = 7200;
 // Rows of the drawing: a bar and a square on each, one under the other.
 constexpr int kRighe = 9, kPassoRiga = 630, kLatoQuadretto = 540, kLunghezzaBarra = 4845;
 
-QString Parola(int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return NumeroInParole(n, g);
-}
-
 FrameOptions Opzioni(const char* scheda, const FrameLayout& layout) {
     FrameOptions o;
     o.captions = MenuCaptions{"Azzera conteggio        ", "Stampa scheda        ", "Informazioni          "};
     o.scheda = scheda;
     o.limiteA99 = true;
+    // The limit panel chooses 99, with a question of its own; the counters then start at 0 and the
+    // question the child sees is drawn last.
+    o.setUp = SetUp::OnLoad;
     o.layout = layout;
     return o;
 }
@@ -56,9 +54,10 @@ FrameLayout AspettoLettore() {
 
 } // namespace
 
-// ---- LunghiForm ----
+// ---- LongsUnitsForm ----
 
-LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, const FrameLayout& layout)
+LongsUnitsForm::LongsUnitsForm(Program& program, const char* scheda, int left, int top,
+                               const FrameLayout& layout)
     : ExerciseForm(program, Variante::B, 0, kLarghezza, kAltezza, Opzioni(scheda, layout)) {
     AggiungiCorniceNumeroMassimo(QStringLiteral("MenuNumeroMassimo"),
                                  QStringLiteral("Scegli il numero massimo        "), mnuStampa);
@@ -67,58 +66,51 @@ LunghiForm::LunghiForm(Program& program, const char* scheda, int left, int top, 
         Shape* barra = shape(indexed(QStringLiteral("Decine"), i), Shape::Rectangle, left, y, kLunghezzaBarra,
                              kLatoQuadretto);
         barra->setFillStyle(Shape::Solid);
-        barra->setFillColor(QColor(0xff, 0x00, 0x00));
+        barra->setFillColor(kRosso);
         barra->setVisible(false);
         Decine.set(i, barra);
         Shape* quadretto = shape(indexed(QStringLiteral("Unita"), i), Shape::Square,
                                  left + kLunghezzaBarra + 195, y, kLatoQuadretto, kLatoQuadretto);
         quadretto->setFillStyle(Shape::Solid);
-        quadretto->setFillColor(QColor(0x00, 0x00, 0xff));
+        quadretto->setFillColor(kBlu);
         quadretto->setVisible(false);
         Unita.set(i, quadretto);
     }
 }
 
-void LunghiForm::Load() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    // The limit panel chooses 99, with a question of its own; the counters then start at 0 and the
-    // question the child sees is drawn last.
-    ExerciseForm::Load();
-    AzzeraConteggio();
-    NuovaDomanda();
-}
-
-void LunghiForm::NascondiDisegno() {
+void LongsUnitsForm::NascondiDisegno() {
     for (int i = 0; i < kRighe; ++i) {
         Decine(i)->setVisible(false);
         Unita(i)->setVisible(false);
     }
 }
 
-QJsonObject LunghiForm::fields() const {
+QJsonObject LongsUnitsForm::fields() const {
     return {{"NumeroDecine", NumeroDecine}, {"NumeroUnita", NumeroUnita}};
 }
 
 // ---- Form999x ----
 
-Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
+Form999x::Form999x(Program& program)
+    : LongsUnitsForm(program, "formStampa1", 210, 735, AspettoCostruttore()) {
     EtichettaNumero = label(QStringLiteral("EtichettaNumero"), QString(), 210, 120, 5580, 540, Arial(20.25));
     EtichettaNumero->setAlignment(Qt::AlignCenter);
-    EtichettaNumero->setBackColor(QColor(0x00, 0xff, 0xff));
+    EtichettaNumero->setBackColor(kCiano);
 
     constexpr int x = 6120, largo = 2520;
     BottoneUnita =
         button(QStringLiteral("BottoneUnita"), QStringLiteral("Unità"), x, 735, largo, 735, Arial(14.25));
-    BottoneUnita->setBackColor(QColor(0x00, 0x00, 0xff));
+    BottoneUnita->setBackColor(kBlu);
     BottoneDecine =
         button(QStringLiteral("BottoneDecine"), QStringLiteral("Decine"), x, 1620, largo, 735, Arial(14.25));
-    BottoneDecine->setBackColor(QColor(0xff, 0x00, 0x00));
+    BottoneDecine->setBackColor(kRosso);
     BottoneRicomincia = button(QStringLiteral("BottoneRicomincia"), QStringLiteral("Ricomincia"), x, 2505,
                                largo, 1095, Arial(12));
     BottoneRicomincia->setPicture(pictures::FrecciaCircolare());
     BottoneConferma = button(QStringLiteral("BottoneConferma"), QStringLiteral("Conferma"), x, 3750, largo,
                              1095, Arial(12));
     BottoneConferma->setPicture(pictures::FacciaSorridente());
+    RispondeCon(BottoneConferma);
 
     MenuNumero = menu(QStringLiteral("MenuNumero"), QStringLiteral("Numero in        "), nullptr, mnuStampa);
     MenuParola = menu(QStringLiteral("MenuParola"), QStringLiteral("Parola"), MenuNumero);
@@ -129,17 +121,9 @@ Form999x::Form999x(Program& program) : LunghiForm(program, "formStampa1", 210, 7
     BottoneUnita->Click = [this] { BottoneUnita_Click(); };
     BottoneRicomincia->Click = [this] { BottoneRicomincia_Click(); };
     BottoneConferma->Click = [this] { BottoneConferma_Click(); };
-    // The check mark is the one store of the choice; either item brings a new number.
-    MenuParola->Click = [this] {
-        MenuCifre->setChecked(false);
-        MenuParola->setChecked(true);
-        NuovaDomanda();
-    };
-    MenuCifre->Click = [this] {
-        MenuParola->setChecked(false);
-        MenuCifre->setChecked(true);
-        NuovaDomanda();
-    };
+    // Either item brings a new number; the check mark shows the choice.
+    MenuParola->Click = [this] { ScegliCifre(false); };
+    MenuCifre->Click = [this] { ScegliCifre(true); };
     CorniceNumeroMassimo->raise();
 }
 
@@ -149,8 +133,15 @@ void Form999x::NuovaDomanda() {
     g.NumeroEsatto = int16_t(Draw(app.rnd, g.NumeroMassimo, 1));
     NumeroDecine = 0;
     NumeroUnita = 0;
-    EtichettaNumero->setCaption(MenuParola->Checked() ? Parola(g.NumeroEsatto, g)
-                                                      : Format(g.NumeroEsatto, QStringLiteral("#,##0")));
+    EtichettaNumero->setCaption(InCifre ? Format(g.NumeroEsatto, QStringLiteral("#,##0"))
+                                        : InParole(g.NumeroEsatto, g));
+}
+
+void Form999x::ScegliCifre(bool cifre) {
+    InCifre = cifre;
+    MenuParola->setChecked(!cifre);
+    MenuCifre->setChecked(cifre);
+    NuovaDomanda();
 }
 
 // Nine of a kind at most: a tenth press changes nothing, and ten squares never turn into a bar.
@@ -175,17 +166,7 @@ void Form999x::BottoneRicomincia_Click() {
 
 // Every press is one answer; a wrong one leaves the drawing to be mended.
 void Form999x::BottoneConferma_Click() {
-    if (NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto) {
-        RispostaEsattaPoiAvanti([this] { BottoneConferma->setEnabled(false); });
-    } else {
-        RispostaErrata();
-    }
-}
-
-void Form999x::BottoneAvanti_Click() {
-    BottoneConferma->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    Rispondi(NumeroDecine * 10 + NumeroUnita == g.NumeroEsatto);
 }
 
 // ---- Form999y, Form999z ----
@@ -199,7 +180,7 @@ bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
 
 // One spelling per number, in capitals, without accent or blank inside; blanks around it are forgiven.
 bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
-    return Trim(testo) == Parola(numero, g);
+    return Trim(testo) == InParole(numero, g);
 }
 
 constexpr std::array<LongsReaderMember, 2> kReaders = {{
@@ -209,30 +190,23 @@ constexpr std::array<LongsReaderMember, 2> kReaders = {{
 
 } // namespace
 
-const LongsReaderMember* FindLongsReaderMember(const QString& form) {
-    for (const LongsReaderMember& m : kReaders)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList LongsUnitsForms() {
+    return Join({{Screen<Form999x>("Form999x")}, Members<LongsReaderForm>(kReaders)});
 }
 
 LongsReaderForm::LongsReaderForm(Program& program, const LongsReaderMember& member)
-    : LunghiForm(program, "formStampa4", 105, 315, AspettoLettore()), member_(member) {
+    : LongsUnitsForm(program, "formStampa4", 105, 315, AspettoLettore()), member_(member) {
     Label3 = label(QStringLiteral("Label3"), QString::fromLatin1(member.consegna), 5880, 2220, 5520, 375,
                    Arial(12));
     Label3->setAlignment(Qt::AlignCenter);
     const bool grande = member.fontTesto > 20;
-    Text1 = textBox(QStringLiteral("Text1"), grande ? 6840 : 6120, 2700, grande ? 3600 : 5040,
-                    grande ? 855 : 495, Arial(member.fontTesto));
-    Text1->setAlignment(Qt::AlignCenter);
-    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
-    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+    // Enter released on a box that isn't empty is one answer; held down, it is released once.
+    Text1 = CasellaRisposta(QStringLiteral("Text1"),
+                            {grande ? 6840 : 6120, 2700, grande ? 3600 : 5040, grande ? 855 : 495},
+                            Arial(member.fontTesto),
+                            [this](const QString& testo) { return member_.giusta(testo, g.NumeroEsatto, g); },
+                            {.filtro = member.filtro});
     CorniceNumeroMassimo->raise();
-}
-
-void LongsReaderForm::Load() {
-    LunghiForm::Load();
-    // The box is ready for the first key, as it is the first control of the screen.
-    Text1->SetFocus();
 }
 
 void LongsReaderForm::NuovaDomanda() {
@@ -246,23 +220,6 @@ void LongsReaderForm::NuovaDomanda() {
         Decine(i)->setVisible(true);
     for (int i = 0; i < NumeroUnita && i < kRighe; ++i)
         Unita(i)->setVisible(true);
-}
-
-// Enter released on a box that isn't empty is one answer; held down, it is released once.
-void LongsReaderForm::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13 || Text1->Text().isEmpty()) return;
-    if (member_.giusta(Text1->Text(), g.NumeroEsatto, g)) {
-        RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
-    } else {
-        RispostaErrata();
-    }
-    if (Text1->isEnabled()) Text1->SetFocus();
-}
-
-void LongsReaderForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 } // namespace contarello

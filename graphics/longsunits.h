@@ -9,16 +9,15 @@
 namespace contarello {
 
 // The drawing, the limit panel set back to 99 at each Load, the counters and the first question.
-class LunghiForm : public ExerciseForm {
+class LongsUnitsForm : public ExerciseForm {
     Q_OBJECT
 public:
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
     // The bars and squares stand in two columns of nine rows, bar i and square i on row i; top is
     // where row 0 stands, left where the bars begin.
-    LunghiForm(Program& app, const char* scheda, int left, int top, const FrameLayout& layout);
+    LongsUnitsForm(Program& app, const char* scheda, int left, int top, const FrameLayout& layout);
     // The drawing as it stands at the start of every question: nothing on show.
     void NascondiDisegno();
 
@@ -29,20 +28,20 @@ protected:
 };
 
 // "dal numero al disegno": the number in words or digits, built by adding bars and squares.
-class Form999x : public LunghiForm {
+class Form999x : public LongsUnitsForm {
     Q_OBJECT
 public:
     explicit Form999x(Program& app);
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
     void BottoneDecine_Click();
     void BottoneUnita_Click();
     void BottoneRicomincia_Click();
     void BottoneConferma_Click();
+    void ScegliCifre(bool cifre);
 
     Label* EtichettaNumero;
     CommandButton* BottoneUnita;
@@ -52,6 +51,7 @@ private:
     MenuItem* MenuNumero;
     MenuItem* MenuParola;
     MenuItem* MenuCifre;
+    bool InCifre = false; // the number asked in digits, or in words
 };
 
 // One of the two screens that draw a number and take it typed.
@@ -65,23 +65,21 @@ struct LongsReaderMember {
     int (*filtro)(int& keyAscii);
 };
 
-const LongsReaderMember* FindLongsReaderMember(const QString& form);
+// The three screens, each under its own name.
+FormList LongsUnitsForms();
 
 // Form999y, "scrivi il numero in cifre", and Form999z, "scrivi il numero in lettere".
-class LongsReaderForm : public LunghiForm {
+class LongsReaderForm : public LongsUnitsForm {
     Q_OBJECT
 public:
     LongsReaderForm(Program& app, const LongsReaderMember& member);
 
-    void Load() override;
-
 protected:
+    // The box is ready for the first key, as it is the first control of the screen.
+    void Prepara() override { Text1->SetFocus(); }
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
-    void Text1_KeyUp(int keyCode, int shift);
-
     const LongsReaderMember& member_;
     TextBox* Text1;
     Label* Label3;

@@ -12,10 +12,6 @@ namespace contarello {
 
 namespace {
 
-const QColor kFondo(0xc0, 0x00, 0xc0);
-const QColor kNero(0, 0, 0);
-const QColor kRosso(0xff, 0, 0);
-
 // The axis, and the ticks on it: tick i stands at kSinistra + kPasso * i.
 constexpr int kSinistra = 525, kPasso = 420, kAsse = 3885, kCimaTacca = 3570;
 // Wide enough that a red tick stands out from the black ones on the violet ground.
@@ -37,6 +33,8 @@ FrameOptions Opzioni() {
     FrameOptions o;
     o.captions = kMenuLargo;
     o.stampaScheda = false;
+    // Everything is set up at each activation: coming back to the screen starts the counts afresh.
+    o.setUp = SetUp::OnActivate;
     // The faces stand above the line, between the two counters.
     o.layout.facce = {3255, 315, 855, 750};
     o.layout.label1 = {360, 480, 1095, 375};
@@ -48,15 +46,13 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const NumberLineMember* FindNumberLineMember(const QString& form) {
-    for (const NumberLineMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList NumberLineForms() {
+    return Members<NumberLineForm>(kMembers);
 }
 
 NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)
     : ExerciseForm(program, Variante::A, 0, 9495, 6510, Opzioni()), member_(member) {
-    setBackColor(kFondo);
+    setBackColor(kViola);
     Line1 = line(QStringLiteral("Line1"), kSinistra, kAsse, kSinistra + kPasso * (kTacche - 1), kAsse, kNero,
                  kSpessore);
     for (int i = 0; i < kTacche; ++i) {
@@ -72,17 +68,12 @@ NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)
         l->setVisible(false);
         Label3.set(i, l);
     }
-    Text1 = textBox(QStringLiteral("Text1"), 3255, 4620, 2955, 1065, Arial(24));
-    Text1->setAlignment(Qt::AlignCenter);
-    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
-}
-
-// Everything is set up at each activation: coming back to the screen starts the counts afresh.
-void NumberLineForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
-    NumeroRisposte = 0;
-    NuovaDomanda();
+    // Enter alone answers, an empty box too: its number is the tick's own, not a count from the left.
+    // A wrong answer leaves the red tick and the text, for the child to put right.
+    Text1 = CasellaRisposta(
+        QStringLiteral("Text1"), {3255, 4620, 2955, 1065}, Arial(24),
+        [this](const QString& testo) { return Val(testo) == double(NumeroIniziale + TaccaScelta); },
+        {.ancheVuota = true});
 }
 
 void NumberLineForm::NuovaDomanda() {
@@ -90,38 +81,40 @@ void NumberLineForm::NuovaDomanda() {
     Text1->setText(QString());
     for (int i = 0; i < kTacche; ++i) {
         Line2(i)->setBorderColor(kNero);
+        Segnate[size_t(i)] = false;
         Label3(i)->setVisible(false);
     }
     if (member_.decineFisse) {
         // From 10 to 70, whatever the limit: the highest number on a line is 90.
         NumeroIniziale = int16_t((Draw(app.rnd, 7) + 1) * 10);
         for (int i = 0; i < kTacche; i += 10) {
-            Line2(i)->setBorderColor(kRosso);
+            Segna(i);
             ScriviNumero(i);
         }
     } else {
         // From 0 to the limit less 21, so the line ends below the limit.
         NumeroIniziale = int16_t(Draw(app.rnd, g.NumeroMassimo - 20));
         TaccaScelta = int16_t(std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1));
-        Line2(TaccaScelta)->setBorderColor(kRosso);
+        Segna(TaccaScelta);
         ScriviNumero(TaccaScelta);
     }
     Text1->setText(QString());
     ColoraLinea();
 }
 
-bool NumberLineForm::Segnata(int tacca) const {
-    return Line2(tacca)->BorderColor() == kRosso;
+void NumberLineForm::Segna(int tacca) {
+    Line2(tacca)->setBorderColor(kRosso);
+    Segnate[size_t(tacca)] = true;
 }
 
 void NumberLineForm::ColoraLinea() {
     int tacca = std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1);
-    for (int tentativi = 1; Segnata(tacca) && tentativi < kTentativi; ++tentativi)
+    for (int tentativi = 1; Segnate[size_t(tacca)] && tentativi < kTentativi; ++tentativi)
         tacca = std::clamp(Draw(app.rnd, kTacche), 0, kTacche - 1);
-    for (int passo = 0; Segnata(tacca) && passo < kTacche; ++passo)
+    for (int passo = 0; Segnate[size_t(tacca)] && passo < kTacche; ++passo)
         tacca = (tacca + 1) % kTacche;
     TaccaScelta = int16_t(tacca);
-    Line2(TaccaScelta)->setBorderColor(kRosso);
+    Segna(TaccaScelta);
     Text1->setText(QString());
     if (Text1->isEnabled()) Text1->SetFocus();
 }
@@ -139,32 +132,10 @@ void NumberLineForm::ScriviNumero(int tacca) {
     l->setVisible(true);
 }
 
-// Enter alone answers, an empty box too: its number is the tick's own, not a count from the left.
-void NumberLineForm::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13) return;
-    if (Val(Text1->Text()) == double(NumeroIniziale + TaccaScelta)) {
-        ScriviNumero(TaccaScelta);
-        RispostaEsatta();
-        ++NumeroRisposte;
-        if (NumeroRisposte != kRisposteLinea) {
-            ColoraLinea();
-        } else if (BottoneAvanti->Visible()) {
-            BottoneAvanti->setEnabled(true);
-            Text1->setEnabled(false);
-        } else {
-            NuovaDomanda();
-        }
-    } else {
-        // The red tick and the text stay, for the child to put right.
-        RispostaErrata();
-        if (Text1->isEnabled()) Text1->SetFocus();
-    }
-}
-
-void NumberLineForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+bool NumberLineForm::ContinuaDomanda() {
+    if (++NumeroRisposte == kRisposteLinea) return false;
+    ColoraLinea();
+    return true;
 }
 
 QJsonObject NumberLineForm::fields() const {

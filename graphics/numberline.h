@@ -6,6 +6,8 @@
 
 #include "shell/exercise.h"
 
+#include <array>
+
 namespace contarello {
 
 struct NumberLineMember {
@@ -21,7 +23,8 @@ struct NumberLineMember {
     int altoAltre;
 };
 
-const NumberLineMember* FindNumberLineMember(const QString& form);
+// The two screens, each under its own name.
+FormList NumberLineForms();
 
 class NumberLineForm : public ExerciseForm {
     Q_OBJECT
@@ -32,19 +35,21 @@ public:
 
     NumberLineForm(Program& app, const NumberLineMember& member);
 
-    void Activate() override;
     QJsonObject fields() const override;
 
 protected:
     // A fresh line: its first number, its written ticks, and the first tick to name.
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
+    // The tick named gets its number written.
+    void Esatta() override { ScriviNumero(TaccaScelta); }
+    // The line goes on to its next tick until five are named.
+    bool ContinuaDomanda() override;
 
 private:
     // Chooses a tick not yet red and marks it: the one the child names next.
     void ColoraLinea();
-    void Text1_KeyUp(int keyCode, int shift);
-    bool Segnata(int tacca) const;
+    // A tick turned red: written, or named already.
+    void Segna(int tacca);
     // Writes the tick's number above it, the digits centred on the tick.
     void ScriviNumero(int tacca);
 
@@ -54,6 +59,7 @@ private:
     ControlArray<Label> Label3;
     TextBox* Text1;
 
+    std::array<bool, kTacche> Segnate{}; // the red ticks
     int16_t NumeroIniziale = 0;
     int16_t TaccaScelta = 0;
     int16_t NumeroRisposte = 0;

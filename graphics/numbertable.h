@@ -20,7 +20,7 @@ protected:
 
 // The colours of a cell: as the table starts, and once its number is found or asked for.
 inline const QColor kCellaLibera{0xc0, 0xff, 0xc0};
-inline const QColor kCellaRossa{0xff, 0x00, 0x00};
+inline const QColor kCellaRossa = kRosso;
 
 // Where a control of the right-hand column stands, in twips.
 struct ColonnaTabella {

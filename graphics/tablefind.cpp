@@ -13,6 +13,7 @@ TabellaLivelliForm::TabellaLivelliForm(Program& program, const char* scheda, boo
     : TabellaForm(program, 0, [scheda] {
           FrameOptions o;
           o.scheda = scheda;
+          o.setUp = SetUp::OnActivate;
           return o;
       }()) {
     mnuTabella = menu(QStringLiteral("mnuTabella"), QStringLiteral("Tabella"), nullptr, mnuStampa);
@@ -34,13 +35,10 @@ void TabellaLivelliForm::Scegli(MenuItem* item) {
         if (i) i->setChecked(i == item);
 }
 
-void TabellaLivelliForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
+void TabellaLivelliForm::Prepara() {
     // A screen that was waiting for "avanti" still waits, with the button live.
-    AzzeraConteggio();
     Ricomincia();
     Riapri();
-    NuovaDomanda();
 }
 
 void TabellaLivelliForm::RiempiTabella() {
@@ -57,9 +55,15 @@ void TabellaLivelliForm::RiempiTabella() {
 
 void TabellaLivelliForm::Ricomincia() {
     Trovati = 0;
+    Rosse.fill(false);
     for (auto& [i, c] : Numero)
         c->setBackColor(kCellaLibera);
     RiempiTabella();
+}
+
+void TabellaLivelliForm::Colora(int i) {
+    Numero(i)->setBackColor(kCellaRossa);
+    Rosse[size_t(i)] = true;
 }
 
 void TabellaLivelliForm::Trovato() {
@@ -106,25 +110,28 @@ void Form100Trova::Riapri() {
 
 void Form100Trova::NuovaDomanda() {
     CaricaColori();
-    g.NumeroEsatto = EstraiLibera([this](int i) { return Numero(i)->BackColor() == kCellaRossa; });
+    g.NumeroEsatto = EstraiLibera([this](int i) { return Rossa(i); });
     EtichettaNumero->setCaption(Str(g.NumeroEsatto));
 }
 
 void Form100Trova::Numero_Click(int i) {
-    if (i != g.NumeroEsatto) {
-        RispostaErrata();
-        return;
-    }
-    Numero(i)->setCaption(Str(i));
-    Numero(i)->setBackColor(kCellaRossa);
-    Trovato();
-    RispostaEsattaPoiAvanti([this] { Numero(g.NumeroEsatto)->setEnabled(false); });
+    Rispondi(i == g.NumeroEsatto);
 }
 
-void Form100Trova::BottoneAvanti_Click() {
+// The cell found shows its number, in red.
+void Form100Trova::Esatta() {
+    Numero(g.NumeroEsatto)->setCaption(Str(g.NumeroEsatto));
+    Colora(g.NumeroEsatto);
+    Trovato();
+}
+
+// The cell found is greyed while the screen waits for "avanti".
+void Form100Trova::InAttesa() {
+    Numero(g.NumeroEsatto)->setEnabled(false);
+}
+
+void Form100Trova::Riprendi() {
     Numero(g.NumeroEsatto)->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
 }
 
 // ---- Form100Ricon ----
@@ -134,9 +141,10 @@ Form100Ricon::Form100Ricon(Program& program) : TabellaLivelliForm(program, "form
     Label3 = label(QStringLiteral("Label3"), QString::fromUtf8("quale numero è rosso?"), x, 2640, w, 375,
                    Arial(12));
     Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    Text1 = textBox(QStringLiteral("Text1"), 6600, 3360, 1665, 1335, Arial(36));
-    Text1->setAlignment(Qt::AlignCenter);
-    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
+    // No filter here: an empty box, or one with no number in front, reads as 0.
+    Text1 = CasellaRisposta(QStringLiteral("Text1"), {6600, 3360, 1665, 1335}, Arial(36),
+                            [this](const QString& testo) { return Val(testo) == g.NumeroEsatto; },
+                            {.ancheVuota = true});
 }
 
 void Form100Ricon::Riapri() {
@@ -147,34 +155,25 @@ void Form100Ricon::Riapri() {
 void Form100Ricon::RiempiTabella() {
     TabellaLivelliForm::RiempiTabella();
     // A change of level mustn't write in the number the child is being asked for.
-    if (Text1->isEnabled() && Numero(g.NumeroEsatto)->BackColor() == kCellaRossa)
-        Numero(g.NumeroEsatto)->setCaption(QString());
+    if (Text1->isEnabled() && Rossa(g.NumeroEsatto)) Numero(g.NumeroEsatto)->setCaption(QString());
 }
 
 void Form100Ricon::NuovaDomanda() {
     CaricaColori();
     g.NumeroEsatto = EstraiLibera([this](int i) { return !Numero(i)->Caption().isEmpty(); });
-    Numero(g.NumeroEsatto)->setBackColor(kCellaRossa);
+    Colora(g.NumeroEsatto);
     Text1->setText(QString());
     if (Text1->isEnabled()) Text1->SetFocus();
 }
 
-void Form100Ricon::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13) return;
-    // No filter here: an empty box, or one with no number in front, reads as 0.
-    if (Val(Text1->Text()) != g.NumeroEsatto) {
-        RispostaErrata();
-        return;
-    }
+// The red cell shows its number.
+void Form100Ricon::Esatta() {
     Numero(g.NumeroEsatto)->setCaption(Str(g.NumeroEsatto));
     Trovato();
-    RispostaEsattaPoiAvanti([this] { Text1->setEnabled(false); });
 }
 
-void Form100Ricon::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+FormList TableFindForms() {
+    return {Screen<Form100Trova>("Form100Trova"), Screen<Form100Ricon>("Form100Ricon")};
 }
 
 } // namespace contarello

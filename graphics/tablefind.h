@@ -5,6 +5,8 @@
 
 #include "graphics/numbertable.h"
 
+#include <array>
+
 namespace contarello {
 
 class TabellaLivelliForm : public TabellaForm {
@@ -13,19 +15,22 @@ public:
     // facile: whether the screen offers the level that shows the whole table.
     TabellaLivelliForm(Program& app, const char* scheda, bool facile);
 
-    // A new start each time the screen comes up, back from the worksheet included: counters, the
-    // round of ten and the red cells all go, so what the child sees matches the counters. A screen
-    // waiting for "avanti" goes on waiting.
-    void Activate() override;
     QJsonObject fields() const override;
 
 protected:
+    // A new start each time the screen comes up, back from the worksheet included: counters, the
+    // round of ten and the red cells all go, so what the child sees matches the counters. A screen
+    // waiting for "avanti" goes on waiting.
+    void Prepara() override;
     // Writes the captions by the level checked: all, the first row and column, or none.
     virtual void RiempiTabella();
     // A new round of ten: every cell green again, its caption by the level.
     void Ricomincia();
     // One more number found in this round; the tenth clears the table at once.
     void Trovato();
+    // Cell i turned red: found, or asked for.
+    void Colora(int i);
+    bool Rossa(int i) const { return i >= 0 && i < 100 && Rosse[size_t(i)]; }
     // What each screen sets going again as it starts: the cells, or the answer box unless "avanti"
     // is waiting.
     virtual void Riapri() = 0;
@@ -39,6 +44,7 @@ protected:
     MenuItem* mnuDifficile;
     Label* Label3 = nullptr;
     int16_t Trovati = 0;
+    std::array<bool, 100> Rosse{}; // the red cells of this round
 
 private:
     void Scegli(MenuItem* item);
@@ -51,8 +57,10 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
     void Numero_Click(int i) override;
+    void Esatta() override;
+    void InAttesa() override;
+    void Riprendi() override;
     void Riapri() override;
 
 private:
@@ -66,14 +74,15 @@ public:
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
+    void Esatta() override;
     void RiempiTabella() override;
     void Riapri() override;
 
 private:
-    void Text1_KeyUp(int keyCode, int shift);
-
     TextBox* Text1;
 };
+
+// Form100Trova and Form100Ricon, each under its own name.
+FormList TableFindForms();
 
 } // namespace contarello

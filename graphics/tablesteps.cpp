@@ -72,14 +72,18 @@ constexpr std::array<TableStepMember, 6> kMembers = {{
 
 } // namespace
 
-const TableStepMember* FindTableStepMember(const QString& form) {
-    for (const TableStepMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList TableStepForms() {
+    return Members<TableStepForm>(kMembers);
 }
 
 TableStepForm::TableStepForm(Program& program, const TableStepMember& member)
-    : TabellaForm(program, member.numeroScheda), member_(member) {
+    : TabellaForm(program, member.numeroScheda,
+                  [&member] {
+                      FrameOptions o;
+                      o.setUp = member.suLoad ? SetUp::OnLoad : SetUp::OnActivate;
+                      return o;
+                  }()),
+      member_(member) {
     constexpr int x = ColonnaTabella::left, w = ColonnaTabella::width;
     if (member.consegna) {
         Label3 =
@@ -91,24 +95,12 @@ TableStepForm::TableStepForm(Program& program, const TableStepMember& member)
     EtichettaNumero->setAlignment(Qt::AlignCenter);
 }
 
-void TableStepForm::Load() {
-    ExerciseForm::Load();
-    if (member_.suLoad) Imposta();
-}
-
-void TableStepForm::Activate() {
-    if (!member_.suLoad) Imposta();
-}
-
-void TableStepForm::Imposta() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
+void TableStepForm::Prepara() {
     // Coming back to a screen that was waiting for "avanti", it still waits: the button stays live
     // and its click draws the next question. The cell greyed by the old answer is a cell like the
     // others again.
     AbilitaTutte();
-    AzzeraConteggio();
     ScriviTutti();
-    NuovaDomanda();
 }
 
 void TableStepForm::NuovaDomanda() {
@@ -122,21 +114,13 @@ void TableStepForm::NuovaDomanda() {
 }
 
 void TableStepForm::Numero_Click(int i) {
-    if (i != esatto_) {
-        RispostaErrata();
-        return;
-    }
-    RispostaEsattaPoiAvanti([this] {
-        // The question stands complete, and its cell greyed as the answer.
-        EtichettaNumero->setCaption(EtichettaNumero->Caption() + Numero(esatto_)->Caption());
-        Numero(esatto_)->setEnabled(false);
-    });
+    Rispondi(i == esatto_);
 }
 
-void TableStepForm::BottoneAvanti_Click() {
-    Numero(esatto_)->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+// The question stands complete, and its cell greyed as the answer.
+void TableStepForm::InAttesa() {
+    EtichettaNumero->setCaption(EtichettaNumero->Caption() + Numero(esatto_)->Caption());
+    Numero(esatto_)->setEnabled(false);
 }
 
 QJsonObject TableStepForm::fields() const {

@@ -28,25 +28,24 @@ struct TableStepMember {
     DomandaTabella (*draw)(Random& rnd, int n);
 };
 
-const TableStepMember* FindTableStepMember(const QString& form);
+// The six screens, each under its own name.
+FormList TableStepForms();
 
 class TableStepForm : public TabellaForm {
     Q_OBJECT
 public:
     TableStepForm(Program& app, const TableStepMember& member);
 
-    void Load() override;
-    void Activate() override;
     QJsonObject fields() const override;
 
 protected:
+    void Prepara() override;
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
     void Numero_Click(int i) override;
+    void InAttesa() override;
+    void Riprendi() override { Numero(esatto_)->setEnabled(true); }
 
 private:
-    void Imposta();
-
     const TableStepMember& member_;
     Label* EtichettaNumero;
     Label* Label3 = nullptr;

@@ -5,20 +5,12 @@
 namespace contarello {
 
 namespace {
-
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-const QColor kMagenta(0xff, 0x00, 0xff);
-const QColor kCiano(0x00, 0xff, 0xff);
-
-} // namespace
-
-namespace {
-// No "avanti": the last digit placed goes on by itself. The counters and the faces stand right of the
-// column.
+// No "avanti": the right tens bring a "Bravo" and the next operation. The counters and the faces
+// stand right of the column.
 FrameOptions Opzioni(const ColumnMember& m) {
     FrameOptions o;
     o.bottoneAvanti = false;
+    o.lode = "Bravo";
     o.captions = {kMenuLargo.azzera, kMenuLargo.stampa, m.informazioni};
     o.layout.label1 = {7560, 1860, 1095, 375};
     o.layout.esatti = {8760, 1800, 1095, 495};
@@ -85,18 +77,19 @@ ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante va
 
     line(QStringLiteral("Line1"), member.line1Left, 3600, 6840, 3600, Qt::black, 3);
 
-    auto risultato = [this](const char* name, int left, QColor colour) {
-        TextBox* t = textBox(QString::fromUtf8(name), left, 3840, 735, 615, Arial(24));
-        t->setAlignment(Qt::AlignCenter);
+    // Enter alone answers, an empty box as 0. The right units are a step; the right tens the answer.
+    auto risultato = [this](const char* name, int left, QColor colour,
+                            std::function<bool(const QString&)> giusta, std::function<void()> passo) {
+        TextBox* t = CasellaRisposta(QString::fromUtf8(name), {left, 3840, 735, 615}, Arial(24),
+                                     std::move(giusta), {.ancheVuota = true, .passo = std::move(passo)});
         t->setTextMargins(0, 0, 0, 0);
         t->setForeColor(colour);
         t->setEnabled(false);
         return t;
     };
-    Edar = risultato("Edar", 4200, kRosso);
-    Eur = risultato("Eur", 5520, kBlu);
-    Eur->KeyUp = [this](int keyCode, int) { Eur_KeyUp(keyCode); };
-    Edar->KeyUp = [this](int keyCode, int) { Edar_KeyUp(keyCode); };
+    Edar = risultato("Edar", 4200, kRosso, [this](const QString& t) { return Val(t) == DaR; }, {});
+    Eur = risultato(
+        "Eur", 5520, kBlu, [this](const QString& t) { return Val(t) == UR; }, [this] { UnitaEsatte(); });
 }
 
 void ColumnForm::CreaCambio(int upLeft, int upTop, int uaLeft, int uaTop) {
@@ -129,11 +122,6 @@ void ColumnForm::Trascinabile(Label* l, int dragMode) {
 
 void ColumnForm::Cifra(Label* l, int16_t cifra, bool anchePerZero) {
     l->setCaption(cifra >= 1 || anchePerZero ? Str(cifra) : QString());
-}
-
-void ColumnForm::Load() {
-    ExerciseForm::Load();
-    AzzeraConteggio();
 }
 
 void ColumnForm::NuovaDomanda() {
@@ -209,28 +197,9 @@ void ColumnForm::ApriDecine() {
     Label3->setCaption(TestoDecine());
 }
 
-void ColumnForm::Eur_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Eur->Text()) != UR) {
-        RispostaErrata();
-        Eur->SetFocus();
-        return;
-    }
-    UnitaEsatte();
-}
-
-void ColumnForm::Edar_KeyUp(int keyCode) {
-    if (keyCode != 13) return;
-    if (Val(Edar->Text()) != DaR) {
-        RispostaErrata();
-        Edar->SetFocus();
-        return;
-    }
+void ColumnForm::Esatta() {
     Edar->setEnabled(false);
     Lris->setCaption(Str(10 * DaR + UR));
-    RispostaEsatta();
-    app.dialogs.MsgBox(QStringLiteral("Bravo"), vbOKOnly, kTitolo);
-    NuovaDomanda();
 }
 
 QJsonObject ColumnForm::fields() const {

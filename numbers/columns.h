@@ -38,21 +38,21 @@ struct ColumnMember {
     const char* secondo; // ... and the second
 };
 
-// The member of the four by its screen's name.
-const ColumnMember* FindColumnMember(const QString& form);
+// The four screens, each under its own name.
+FormList ColumnForms();
 
 class ColumnForm : public ExerciseForm {
     Q_OBJECT
 public:
     ColumnForm(Program& app, const ColumnMember& member, Variante variante);
 
-    void Load() override;
-    // Every return to the screen throws the operation under way away and makes a new one.
-    void Activate() override { NuovaDomanda(); }
     QJsonObject fields() const override;
 
 protected:
+    // Every return to the screen throws the operation under way away and makes a new one.
     void NuovaDomanda() override;
+    // The right tens end the operation: the result written in the row.
+    void Esatta() override;
 
     // What each operation adds: a new background or none, the step after the second number, the
     // step after the right units, the drop on CambioUa.
@@ -88,8 +88,6 @@ private:
     void Casella_DragDrop(Label* casella, Label* propria, Control* source, bool primo);
     void Controlla1();
     void Controlla2();
-    void Eur_KeyUp(int keyCode);
-    void Edar_KeyUp(int keyCode);
     static void Cifra(Label* l, int16_t cifra, bool anchePerZero);
 };
 
@@ -97,9 +95,9 @@ class FormAddizione : public ColumnForm {
     Q_OBJECT
 public:
     FormAddizione(Program& app, const ColumnMember& member);
-    void Load() override;
 
 protected:
+    void Prepara() override;
     bool NuoviColori() const override { return true; }
     void SecondoCompleto() override;
     void UnitaEsatte() override;

@@ -76,45 +76,24 @@ std::optional<Colonna> TentaCol4(Random& rnd, int numeroMassimo) {
 
 namespace {
 
-constexpr ColumnMember kCol1{"FormCol1",
-                             16,
-                             TentaCol1,
-                             false,
-                             3120,
-                             "Informazioni          ",
-                             "Incolonna il primo addendo trascinando le cifre con il mouse.",
-                             "Incolonna il secondo addendo trascinando le cifre con il mouse."};
-constexpr ColumnMember kCol2{"FormCol2",
-                             15,
-                             TentaCol2,
-                             true,
-                             3570,
-                             "Informazioni           ",
-                             "Incolonna il primo addendo trascinando le cifre con il mouse.",
-                             "Incolonna il secondo addendo trascinando le cifre con il mouse."};
-constexpr ColumnMember kCol3{"FormCol3",
-                             18,
-                             TentaCol3,
-                             false,
-                             3120,
-                             "Informazioni          ",
-                             "Incolonna il primo numero trascinando le cifre con il mouse.",
-                             "Incolonna il secondo numero trascinando le cifre con il mouse."};
-constexpr ColumnMember kCol4{"FormCol4",
-                             17,
-                             TentaCol4,
-                             true,
-                             3120,
-                             "Informazioni          ",
-                             "Incolonna il primo numero trascinando le cifre con il mouse.",
-                             "Incolonna il secondo numero trascinando le cifre con il mouse."};
+constexpr const char* kPrimoAddendo = "Incolonna il primo addendo trascinando le cifre con il mouse.";
+constexpr const char* kSecondoAddendo = "Incolonna il secondo addendo trascinando le cifre con il mouse.";
+constexpr const char* kPrimoNumero = "Incolonna il primo numero trascinando le cifre con il mouse.";
+constexpr const char* kSecondoNumero = "Incolonna il secondo numero trascinando le cifre con il mouse.";
+
+constexpr ColumnMember kAddizioni[] = {
+    {"FormCol1", 16, TentaCol1, false, 3120, "Informazioni          ", kPrimoAddendo, kSecondoAddendo},
+    {"FormCol2", 15, TentaCol2, true, 3570, "Informazioni           ", kPrimoAddendo, kSecondoAddendo},
+};
+constexpr ColumnMember kSottrazioni[] = {
+    {"FormCol3", 18, TentaCol3, false, 3120, "Informazioni          ", kPrimoNumero, kSecondoNumero},
+    {"FormCol4", 17, TentaCol4, true, 3120, "Informazioni          ", kPrimoNumero, kSecondoNumero},
+};
 
 } // namespace
 
-const ColumnMember* FindColumnMember(const QString& form) {
-    for (const ColumnMember* m : {&kCol1, &kCol2, &kCol3, &kCol4})
-        if (form == QLatin1String(m->form)) return m;
-    return nullptr;
+FormList ColumnForms() {
+    return Join({Members<FormAddizione>(kAddizioni), Members<FormSottrazione>(kSottrazioni)});
 }
 
 // ---- Addition: the carry goes up from beside the units to above the tens ----
@@ -129,9 +108,8 @@ FormAddizione::FormAddizione(Program& program, const ColumnMember& member)
     if (member.cambio) CreaCambio(5160, 3840, 4320, 780);
 }
 
-void FormAddizione::Load() {
+void FormAddizione::Prepara() {
     app.rnd.Randomize();
-    ColumnForm::Load();
 }
 
 QString FormAddizione::TestoUnita() const {
@@ -176,7 +154,7 @@ void FormAddizione::CambioUa_DragDrop(Control* source) {
 
 FormSottrazione::FormSottrazione(Program& program, const ColumnMember& member)
     : ColumnForm(program, member, Variante::B) {
-    setBackColor(QColor(0x00, 0xff, 0xff));
+    setBackColor(kCiano);
     Label6->setCaption(QStringLiteral("-"));
     line(QStringLiteral("Line2"), 6360, 2160, 7080, 2160, Qt::black, 3);
     // The empty violet label waits above the tens, clear of their head, and goes just left of the

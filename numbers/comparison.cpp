@@ -6,7 +6,15 @@ namespace contarello {
 
 // ---- FormMM ----
 
-FormMM::FormMM(Program& program) : ExerciseForm(program, Variante::D, 3) {
+namespace {
+FrameOptions MMOptions() {
+    FrameOptions o;
+    o.setUp = SetUp::OnLoad;
+    return o;
+}
+} // namespace
+
+FormMM::FormMM(Program& program) : ExerciseForm(program, Variante::D, 3, 9495, 6510, MMOptions()) {
     // The two numbers stand on white, whatever colour the screen takes, so they always read clearly.
     for (int i : {0, 1}) {
         auto* n = label(indexed(QStringLiteral("EtNumero"), i), QString(), i == 0 ? 600 : 6015, 1500, 2880,
@@ -27,15 +35,9 @@ FormMM::FormMM(Program& program) : ExerciseForm(program, Variante::D, 3) {
         auto* b = button(indexed(QStringLiteral("Comando"), i), QLatin1String(simboli[i]), 600 + i * 2160,
                          3480, 1815, 1815, Arial(72));
         b->Click = [this, i] { Comando_Click(i); };
+        RispondeCon(b);
         Comando.set(i, b);
     }
-}
-
-void FormMM::Load() {
-    ExerciseForm::Load();
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    AzzeraConteggio();
-    NuovaDomanda();
 }
 
 void FormMM::NuovaDomanda() {
@@ -52,29 +54,15 @@ void FormMM::NuovaDomanda() {
     EtNumero(1)->setCaption(Format(SecondoNumero, QStringLiteral("###,###,##0")));
 }
 
-void FormMM::AbilitaSimboli(bool on) {
-    for (auto& [i, b] : Comando)
-        b->setEnabled(on);
-}
-
+// A wrong symbol leaves the buttons enabled: the child just tries another.
 void FormMM::Comando_Click(int index) {
-    if (index != SimboloEsatto) {
-        // The buttons stay enabled: the child just tries another symbol.
-        RispostaErrata();
-        return;
-    }
-    RispostaEsattaPoiAvanti([this, index] {
-        Label3->setCaption(Comando(index)->Caption());
-        Label3->setVisible(true);
-        AbilitaSimboli(false);
-    });
+    Rispondi(index == SimboloEsatto);
 }
 
-void FormMM::BottoneAvanti_Click() {
-    Label3->setVisible(false);
-    AbilitaSimboli(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+// The right symbol stands between the two numbers while the buttons wait.
+void FormMM::InAttesa() {
+    Label3->setCaption(Comando(SimboloEsatto)->Caption());
+    Label3->setVisible(true);
 }
 
 QJsonObject FormMM::fields() const {
@@ -136,6 +124,10 @@ void FormSimb::MostraRispostaEsatta() {
 
 QJsonObject FormSimb::fields() const {
     return {{"QuanteDecine", QuanteDecine}, {"QuanteUnita", QuanteUnita}};
+}
+
+FormList ComparisonForms() {
+    return Join({{Screen<FormMM>("FormMM")}, {Screen<FormSimb>("FormSimb")}});
 }
 
 } // namespace contarello

@@ -15,16 +15,15 @@ class FormMM : public ExerciseForm {
 public:
     explicit FormMM(Program& app);
 
-    void Load() override;
     QJsonObject fields() const override;
 
 protected:
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
+    void InAttesa() override;
+    void Riprendi() override { Label3->setVisible(false); }
 
 private:
     void Comando_Click(int index);
-    void AbilitaSimboli(bool on);
 
     ControlArray<Label> EtNumero;
     Label* Label3;
@@ -50,5 +49,8 @@ private:
     int16_t QuanteDecine = 0;
     int16_t QuanteUnita = 0;
 };
+
+// FormMM and FormSimb, each under its own name.
+FormList ComparisonForms();
 
 } // namespace contarello

@@ -36,4 +36,8 @@ void Formesp::NuovaDomanda() {
     ScriviDomanda(Espressione(g.NumeroEsatto));
 }
 
+FormList ExpressionForms() {
+    return {Screen<Formesp>("Formesp")};
+}
+
 } // namespace contarello

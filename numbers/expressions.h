@@ -21,4 +21,7 @@ protected:
     void NuovaDomanda() override;
 };
 
+// Formesp under its name.
+FormList ExpressionForms();
+
 } // namespace contarello

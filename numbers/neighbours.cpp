@@ -56,10 +56,8 @@ QuestionLook VicinoLook() {
 
 } // namespace
 
-const NeighbourMember* FindNeighbourMember(const QString& form) {
-    for (const NeighbourMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList NeighbourForms() {
+    return Members<NeighbourForm>(kMembers);
 }
 
 NeighbourForm::NeighbourForm(Program& program, const NeighbourMember& member)

@@ -24,7 +24,8 @@ struct NeighbourMember {
     QString (*riga)(int esatto);
 };
 
-const NeighbourMember* FindNeighbourMember(const QString& form);
+// The three screens, each under its own name.
+FormList NeighbourForms();
 
 class NeighbourForm : public QuestionForm {
     Q_OBJECT

@@ -29,6 +29,7 @@ FrameOptions Opzioni() {
     o.layout.errati = {10200, 240, 960, 495};
     o.layout.facce = {11280, 120, 855, 750};
     o.layout.avanti = {8460, 3240, 2415, 1215};
+    o.setUp = SetUp::OnLoad;
     return o;
 }
 
@@ -79,16 +80,12 @@ FormOrd::FormOrd(Program& program) : ExerciseForm(program, Variante::A, 4, kLarg
                        [this](int i) { Option3D1_Click(i); });
 }
 
-void FormOrd::Load() {
-    ExerciseForm::Load();
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
+void FormOrd::Prepara() {
     Option3D1(4)->setValue(true);
     ScegliOrdinamento(true);
-    AzzeraConteggio();
     for (int i = 0; i < kPosti; ++i)
         ComandoNumero(i)->setVisible(false);
-    Label3->setCaption(QStringLiteral("8"));
-    NuovaDomanda();
+    ScriviRiga(QStringLiteral("8"));
 }
 
 void FormOrd::NuovaDomanda() {
@@ -118,16 +115,15 @@ void FormOrd::ComandoNumero_Click(int k) {
     if (Scelti == QuantiNumeri) ControllaOrdine();
 }
 
+// A wrong order puts the numbers back on their buttons, to be placed again.
 void FormOrd::ControllaOrdine() {
     // Only a pair strictly out of order is wrong: equal numbers may stand either way round.
-    for (int i = 1; i < Scelti; ++i) {
-        const bool fuori = DalMinore != False ? Ordinati[i] < Ordinati[i - 1] : Ordinati[i - 1] < Ordinati[i];
-        if (fuori) {
-            OrdineSbagliato();
-            return;
-        }
-    }
-    RispostaEsattaPoiAvanti();
+    bool giusto = true;
+    for (int i = 1; i < Scelti; ++i)
+        if (DalMinore != False ? Ordinati[i] < Ordinati[i - 1] : Ordinati[i - 1] < Ordinati[i])
+            giusto = false;
+    if (!giusto) RimettiNumeri();
+    Rispondi(giusto);
 }
 
 void FormOrd::RimettiNumeri() {
@@ -141,19 +137,9 @@ void FormOrd::RimettiNumeri() {
     }
 }
 
-void FormOrd::OrdineSbagliato() {
-    RimettiNumeri();
-    RispostaErrata();
-}
-
-void FormOrd::BottoneAvanti_Click() {
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
-}
-
 void FormOrd::Option3D1_Click(int i) {
     QuantiNumeri = int16_t(Val(Option3D1(i)->Caption()));
-    Label3->setCaption(Str(QuantiNumeri));
+    ScriviRiga(Str(QuantiNumeri));
     EtNumeri->setVisible(false);
     NuovaDomanda();
 }
@@ -161,7 +147,19 @@ void FormOrd::Option3D1_Click(int i) {
 // The title bar tells the child the order asked; the numbers already placed stay.
 void FormOrd::ScegliOrdinamento(bool dalMinore) {
     setCaption(dalMinore ? kDalMinore : kDalMaggiore);
+    g.OrdinaConsegna = Caption();
     DalMinore = dalMinore ? True : False;
+}
+
+void FormOrd::ScriviRiga(const QString& quanti) {
+    Label3->setCaption(quanti);
+    g.OrdinaRiga = quanti;
+}
+
+// Without the screen the worksheet is built as from a FormOrd just loaded.
+void FormOrd::Unload() {
+    g.OrdinaRiga = QStringLiteral("8");
+    g.OrdinaConsegna = kDalMinore;
 }
 
 QJsonObject FormOrd::fields() const {
@@ -175,6 +173,10 @@ QJsonObject FormOrd::fields() const {
             {"QuantiNumeri", QuantiNumeri},
             {"Scelti", Scelti},
             {"DalMinore", DalMinore}};
+}
+
+FormList OrderingForms() {
+    return {Screen<FormOrd>("FormOrd")};
 }
 
 } // namespace contarello

@@ -3,8 +3,8 @@
 // column, the order judged as a whole once the last one is placed. The task stands in the title
 // bar, the one screen of the program that has one.
 
-#include "shell/exercise.h"
 #include "core/globals.h"
+#include "shell/exercise.h"
 
 #include <array>
 #include <memory>
@@ -16,23 +16,24 @@ class FormOrd : public ExerciseForm {
 public:
     explicit FormOrd(Program& app);
 
-    // Everything is set up here and nothing in Activate: coming back from the worksheet keeps the
-    // question the child was ordering.
-    void Load() override;
     QJsonObject fields() const override;
+    void Unload() override;
 
 protected:
+    // Everything is set up as the screen loads and nothing as it comes up: coming back from the
+    // worksheet keeps the question the child was ordering.
+    void Prepara() override;
     void NuovaDomanda() override;
-    void BottoneAvanti_Click() override;
 
 private:
     void ComandoNumero_Click(int k);
     void ControllaOrdine();
-    void OrdineSbagliato();
     // The same numbers back on their buttons and the second column emptied.
     void RimettiNumeri();
     void Option3D1_Click(int i);
     void ScegliOrdinamento(bool dalMinore);
+    // The numbers to a row of the worksheet, in the hidden Label3 and for the worksheet.
+    void ScriviRiga(const QString& quanti);
 
     ControlArray<CommandButton> ComandoNumero;
     ControlArray<Label> EtNumero;
@@ -51,5 +52,8 @@ private:
     int16_t Scelti = 0;
     int16_t DalMinore = True;
 };
+
+// FormOrd under its name.
+FormList OrderingForms();
 
 } // namespace contarello

@@ -101,10 +101,8 @@ constexpr std::array<StepMember, 12> kMembers = {{
 
 } // namespace
 
-const StepMember* FindStepMember(const QString& form) {
-    for (const StepMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList StepForms() {
+    return Members<StepForm>(kMembers);
 }
 
 StepForm::StepForm(Program& program, const StepMember& member)

@@ -21,8 +21,8 @@ struct StepMember {
     Domanda (*draw)(Random& rnd, int n);
 };
 
-// The table of the twelve; find a member by its screen's name.
-const StepMember* FindStepMember(const QString& form);
+// The twelve screens, each under its own name.
+FormList StepForms();
 
 class StepForm : public QuestionForm {
     Q_OBJECT

@@ -9,11 +9,6 @@ namespace contarello {
 
 namespace {
 
-QString Parola(int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return NumeroInParole(n, g);
-}
-
 QString Cifre(int numero, Modulo1&) {
     return Str(numero);
 }
@@ -26,11 +21,12 @@ bool CifreGiuste(const QString& testo, int numero, Modulo1&) {
 // One spelling per number, in capitals, with no accent and no blank inside; blanks around the word
 // are forgiven. Capitals come from the key filter only, so a word pasted in small letters is wrong.
 bool ParolaGiusta(const QString& testo, int numero, Modulo1& g) {
-    return Trim(testo) == Parola(numero, g);
+    return Trim(testo) == InParole(numero, g);
 }
 
 constexpr std::array<WordsMember, 2> kMembers = {{
-    {"FormScri", "Scrivi il numero in cifre", 36, 4335, true, Parola, CifreGiuste, nullptr},
+    {"FormScri", "Scrivi il numero in cifre", 36, 4335, true,
+     [](int n, Modulo1& g) { return InParole(n, g); }, CifreGiuste, nullptr},
     {"FormScri2", "Scrivi il numero in lettere", 18, 8670, false, Cifre, ParolaGiusta, FiltroMaiuscole},
 }};
 
@@ -51,27 +47,24 @@ FrameOptions Opzioni() {
 
 } // namespace
 
-const WordsMember* FindWordsMember(const QString& form) {
-    for (const WordsMember& m : kMembers)
-        if (form == QLatin1String(m.form)) return &m;
-    return nullptr;
+FormList WordsForms() {
+    return Members<WordsForm>(kMembers);
 }
 
 WordsForm::WordsForm(Program& program, const WordsMember& member)
-    : QuestionForm(program, Variante::D, 1, Aspetto(member), Opzioni()), member_(member) {
+    : QuestionForm(program, Variante::D, 1, Aspetto(member), Opzioni(), {.filtro = member.filtro}),
+      member_(member) {
     AggiungiCorniceNumeroMassimo(QStringLiteral("mnuNumeroMassimo"),
                                  QStringLiteral("Numero Massimo          "), mnuStampa);
 
     Consegna(QString::fromLatin1(member.consegna));
     Label3->setAlignment(Qt::AlignCenter);
-    if (member.filtro) Text1->KeyPress = [f = member.filtro](int& keyAscii) { keyAscii = f(keyAscii); };
     // The limit panel lies over all the rest.
     CorniceNumeroMassimo->raise();
 }
 
-void WordsForm::Load() {
+void WordsForm::Prepara() {
     if (member_.randomize) app.rnd.Randomize();
-    QuestionForm::Load();
 }
 
 void WordsForm::NuovaDomanda() {

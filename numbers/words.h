@@ -22,16 +22,16 @@ struct WordsMember {
     int (*filtro)(int& keyAscii);
 };
 
-const WordsMember* FindWordsMember(const QString& form);
+// The two screens, each under its own name.
+FormList WordsForms();
 
 class WordsForm : public QuestionForm {
     Q_OBJECT
 public:
     WordsForm(Program& app, const WordsMember& member);
 
-    void Load() override;
-
 protected:
+    void Prepara() override;
     void NuovaDomanda() override;
     bool RispostaGiusta() override;
     // The question stays as it is while the screen waits: a word and its digits side by side would

@@ -1,6 +1,6 @@
 #pragma once
-// The background colours drawn at random for each question. Four variants of one table: they
-// differ in slots 3, 9 and 17 only.
+// The program's colours: its own few, and the background colours drawn at random for each question,
+// four variants of one table that differ in slots 3, 9 and 17 only.
 
 #include <QColor>
 #include <optional>
@@ -8,6 +8,17 @@
 namespace contarello {
 
 class Form;
+
+// The program's own colours: red tens and blue units wherever they stand, and the few grounds the
+// screens share.
+inline const QColor kRosso{0xff, 0x00, 0x00};
+inline const QColor kBlu{0x00, 0x00, 0xff};
+inline const QColor kCiano{0x00, 0xff, 0xff};
+inline const QColor kMagenta{0xff, 0x00, 0xff};
+inline const QColor kViola{0xc0, 0x00, 0xc0};
+inline const QColor kGiallo{0xff, 0xff, 0x00};
+inline const QColor kNero{0x00, 0x00, 0x00};
+inline const QColor kBianco{0xff, 0xff, 0xff};
 
 enum class Variante { A, B, C, D };
 

@@ -118,14 +118,14 @@ public:
 
 // Halfway between two colours: how a disabled caption fades into what it stands on.
 // a and b mixed, with the share of a given.
-QColor mescola(QColor a, QColor b, double quota = 0.5) {
+QColor blend(QColor a, QColor b, double quota = 0.5) {
     auto m = [quota](int x, int y) { return int(std::lround(x * quota + y * (1 - quota))); };
     return QColor(m(a.red(), b.red()), m(a.green(), b.green()), m(a.blue(), b.blue()));
 }
 
 // A picture in light greys, its shape kept: a button that can't be pressed looks switched off,
 // whatever colour the screen has behind it.
-QPixmap ingrigito(const QPixmap& pm) {
+QPixmap greyed(const QPixmap& pm) {
     QImage im = pm.toImage().convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < im.height(); ++y) {
         auto* row = reinterpret_cast<QRgb*>(im.scanLine(y));
@@ -170,15 +170,15 @@ void Control::setBackColor(QColor c) {
         w->update();
         // Its own caption and those standing on it (the options of a panel) follow the new fill.
         if (Form* f = formOf(w->parentWidget()))
-            f->adattaInchiostri();
+            f->fitInks();
         else
-            adattaInchiostro();
+            fitInk();
     }
 }
 
 void Control::setForeColor(QColor c) {
     foreColor_ = c;
-    adattaInchiostro();
+    fitInk();
 }
 
 QColor Control::captionGround() const {
@@ -190,14 +190,14 @@ QColor Control::captionGround() const {
     return Qt::white;
 }
 
-void Control::adattaInchiostro() {
+void Control::fitInk() {
     QWidget* w = widget();
     const QPalette::ColorRole role = captionRole();
     if (!w || role == QPalette::NoRole) return;
     const QColor fondo = captionGround();
     const QColor ink = foreColor_.isValid() ? foreColor_ : InchiostroSu(fondo);
     // A colour the program chose stays in every state, so a disabled box still shows its digits.
-    const QColor spento = foreColor_.isValid() ? foreColor_ : mescola(ink, fondo);
+    const QColor spento = foreColor_.isValid() ? foreColor_ : blend(ink, fondo);
     QPalette p = w->palette();
     if (p.isBrushSet(QPalette::Active, role) && p.color(QPalette::Active, role) == ink &&
         p.color(QPalette::Inactive, role) == ink && p.color(QPalette::Disabled, role) == spento)
@@ -230,7 +230,7 @@ void Label::setCaption(const QString& c) {
 }
 
 void Label::paintEvent(QPaintEvent* e) {
-    adattaInchiostro();
+    fitInk();
     QLabel::paintEvent(e);
 }
 
@@ -305,7 +305,7 @@ void CommandButton::setCaption(const QString& c) {
 
 void CommandButton::setPicture(const QPixmap& p, const QPixmap& disabled) {
     picture_ = p;
-    disabledPicture_ = disabled.isNull() && !p.isNull() ? ingrigito(p) : disabled;
+    disabledPicture_ = disabled.isNull() && !p.isNull() ? greyed(p) : disabled;
     update();
 }
 
@@ -334,7 +334,7 @@ void CommandButton::mouseReleaseEvent(QMouseEvent* e) {
 }
 
 void CommandButton::paintEvent(QPaintEvent*) {
-    adattaInchiostro();
+    fitInk();
     QPainter p(this);
     QStyleOptionButton opt;
     opt.initFrom(this);
@@ -344,7 +344,7 @@ void CommandButton::paintEvent(QPaintEvent*) {
     const QColor spenta(0x80, 0x80, 0x80);
     if (hasBackColor())
         opt.palette.setColor(QPalette::Button,
-                             isEnabled() ? backColor_ : mescola(backColor_, QColor(0xe4, 0xe4, 0xe4), 0.3));
+                             isEnabled() ? backColor_ : blend(backColor_, QColor(0xe4, 0xe4, 0xe4), 0.3));
     style()->drawControl(QStyle::CE_PushButtonBevel, &opt, &p, this);
 
     QRect area = rect().adjusted(4, 3, -4, -3);
@@ -388,7 +388,7 @@ void TextBox::describe(QJsonObject& out) const {
 }
 
 void TextBox::paintEvent(QPaintEvent* e) {
-    adattaInchiostro();
+    fitInk();
     QLineEdit::paintEvent(e);
 }
 
@@ -547,7 +547,7 @@ QColor OptionButton::captionGround() const {
 }
 
 void OptionButton::paintEvent(QPaintEvent*) {
-    adattaInchiostro();
+    fitInk();
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     const QColor ink = palette().color(QPalette::WindowText);
@@ -595,7 +595,7 @@ void Frame::MostraSopra() {
 }
 
 void Frame::paintEvent(QPaintEvent*) {
-    adattaInchiostro();
+    fitInk();
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     const QFontMetrics fm(font());

@@ -100,7 +100,7 @@ public:
     virtual QColor captionGround() const;
     // Puts the caption's colour right for its ground. Cheap when nothing changed: each control
     // runs it before it paints, so a fill turned on or off later is followed too.
-    void adattaInchiostro();
+    void fitInk();
 
 protected:
     void describeCommon(QJsonObject& out) const;

@@ -64,6 +64,43 @@ ExerciseForm::ExerciseForm(Program& program, Variante variante, int16_t numeroSc
 void ExerciseForm::Load() {
     // Choosing the option runs its click: the limit, a question, the panel hidden.
     if (options_.limiteA99 && OpzioneNumeroMassimo(8)) OpzioneNumeroMassimo(8)->setValue(true);
+    switch (options_.setUp) {
+    case SetUp::OnLoad:
+        Imposta();
+        break;
+    case SetUp::QuestionOnActivate:
+        AzzeraConteggio();
+        Prepara();
+        break;
+    case SetUp::OnActivate:
+        break;
+    }
+}
+
+void ExerciseForm::Activate() {
+    switch (options_.setUp) {
+    case SetUp::OnLoad:
+        break;
+    case SetUp::QuestionOnActivate:
+        MostraAvanti();
+        NuovaDomanda();
+        break;
+    case SetUp::OnActivate:
+        Imposta();
+        break;
+    }
+}
+
+void ExerciseForm::Imposta() {
+    MostraAvanti();
+    AzzeraConteggio();
+    Prepara();
+    NuovaDomanda();
+}
+
+// "avanti" shows only where the main menu asked for the wait.
+void ExerciseForm::MostraAvanti() {
+    if (BottoneAvanti) BottoneAvanti->setVisible(g.AttendiBottone != False);
 }
 
 void ExerciseForm::mnuEsci_Click() {
@@ -102,14 +139,61 @@ void ExerciseForm::RispostaEsatta() {
     EtichettaEsatti->setCaption(Str(g.Esatti));
 }
 
-void ExerciseForm::RispostaEsattaPoiAvanti(const std::function<void()>& inAttesa) {
+void ExerciseForm::Rispondi(bool giusta) {
+    if (!giusta) {
+        RispostaErrata();
+        if (options_.avvisoErrata) {
+            app.dialogs.MsgBox(QString::fromUtf8(options_.avvisoErrata), vbCritical, kTitolo);
+            SuonoErrato(app);
+        }
+        return;
+    }
+    Esatta();
     RispostaEsatta();
+    if (options_.lode) app.dialogs.MsgBox(QString::fromUtf8(options_.lode), vbOKOnly, kTitolo);
+    if (ContinuaDomanda()) return;
     if (BottoneAvanti && BottoneAvanti->Visible()) {
         BottoneAvanti->setEnabled(true);
-        if (inAttesa) inAttesa();
+        for (QWidget* w : risposta_)
+            w->setEnabled(false);
+        InAttesa();
     } else {
         NuovaDomanda();
     }
+}
+
+void ExerciseForm::BottoneAvanti_Click() {
+    for (QWidget* w : risposta_)
+        w->setEnabled(true);
+    Riprendi();
+    BottoneAvanti->setEnabled(false);
+    NuovaDomanda();
+}
+
+TextBox* ExerciseForm::CasellaRisposta(const QString& name, const Rect& r, const QFont& font,
+                                       std::function<bool(const QString&)> giusta, OpzioniCasella casella) {
+    TextBox* box = textBox(name, r.left, r.top, r.width, r.height, font);
+    box->setAlignment(Qt::AlignCenter);
+    RispondeCon(box);
+    auto invio = [this, box, giusta = std::move(giusta), passo = casella.passo] {
+        const bool esatta = giusta(box->Text());
+        if (esatta && passo) return passo();
+        Rispondi(esatta);
+        if (!esatta && box->isEnabled()) box->SetFocus();
+    };
+    const auto filtro = casella.filtro;
+    if (casella.alRilascio) {
+        if (filtro) box->KeyPress = [filtro](int& keyAscii) { keyAscii = filtro(keyAscii); };
+        box->KeyUp = [box, invio, vuota = casella.ancheVuota](int keyCode, int) {
+            if (keyCode == 13 && (vuota || !box->Text().isEmpty())) invio();
+        };
+    } else {
+        box->KeyPress = [filtro, invio](int& keyAscii) {
+            if (filtro) keyAscii = filtro(keyAscii);
+            if (keyAscii == 13) invio();
+        };
+    }
+    return box;
 }
 
 void ExerciseForm::RispostaErrata() {
@@ -179,32 +263,15 @@ void ExerciseForm::MostraNumeroMassimo() {
 // ---- QuestionForm ----
 
 QuestionForm::QuestionForm(Program& program, Variante variante, int16_t numeroScheda, Look look,
-                           FrameOptions options)
+                           FrameOptions options, OpzioniCasella casella)
     : ExerciseForm(program, variante, numeroScheda, 9495, 6510, options), consegna_(look.consegna) {
     const Rect& n = look.etichettaNumero;
     EtichettaNumero =
         label(QStringLiteral("EtichettaNumero"), QString(), n.left, n.top, n.width, n.height, look.numero);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
-    const Rect& t = look.text1;
-    Text1 = textBox(QStringLiteral("Text1"), t.left, t.top, t.width, t.height, look.testo);
-    Text1->setAlignment(Qt::AlignCenter);
-    Text1->KeyUp = [this](int keyCode, int shift) { Text1_KeyUp(keyCode, shift); };
-}
-
-void QuestionForm::Load() {
-    ExerciseForm::Load();
-    AzzeraConteggio();
-}
-
-void QuestionForm::Activate() {
-    BottoneAvanti->setVisible(g.AttendiBottone != False);
-    NuovaDomanda();
-}
-
-void QuestionForm::BottoneAvanti_Click() {
-    Text1->setEnabled(true);
-    BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    Text1 = CasellaRisposta(
+        QStringLiteral("Text1"), look.text1, look.testo, [this](const QString&) { return RispostaGiusta(); },
+        casella);
 }
 
 void QuestionForm::ScriviDomanda(const QString& caption) {
@@ -225,19 +292,6 @@ void QuestionForm::MostraRispostaEsatta() {
 
 bool QuestionForm::RispostaGiusta() {
     return Val(FiltroCifre(Text1->Text())) == g.NumeroEsatto;
-}
-
-void QuestionForm::Text1_KeyUp(int keyCode, int) {
-    if (keyCode != 13 || Text1->Text().isEmpty()) return;
-    if (RispostaGiusta()) {
-        RispostaEsattaPoiAvanti([this] {
-            Text1->setEnabled(false);
-            MostraRispostaEsatta();
-        });
-    } else {
-        RispostaErrata();
-        if (Text1->isEnabled()) Text1->SetFocus();
-    }
 }
 
 } // namespace contarello

@@ -34,6 +34,11 @@ struct MenuCaptions {
 constexpr MenuCaptions kMenuLargo{"Azzera conteggio        ", "Stampa scheda        ",
                                   "Informazioni         "};
 
+// When a screen sets itself up: the counters to 0 and the first question. As it loads, so that a
+// question left open while a worksheet is printed is still there on return; the counters as it
+// loads and a new question each time it comes up; or all of it each time it comes up.
+enum class SetUp { OnLoad, QuestionOnActivate, OnActivate };
+
 // What a screen changes of the frame.
 struct FrameOptions {
     // The names of the menu items: a few screens spell one differently.
@@ -49,7 +54,27 @@ struct FrameOptions {
     const char* scheda = "formStampa";
     // The screens whose limit panel starts at 99 each time they are loaded, whatever the main menu said.
     bool limiteA99 = false;
+    SetUp setUp = SetUp::QuestionOnActivate;
+    // A message box after each wrong answer, followed by the gentle sound once more; none if nullptr.
+    const char* avvisoErrata = nullptr;
+    // A message box after each right answer, before the next question; none if nullptr.
+    const char* lode = nullptr;
     FrameLayout layout;
+};
+
+// How an answer box takes Enter.
+struct OpzioniCasella {
+    // Enter answers on its release, once even when held; or on every press, the repeats of a held
+    // key included.
+    bool alRilascio = true;
+    // Enter released on an empty box answers too (the screens then read it as 0); otherwise it does
+    // nothing. Taken on every press, Enter always answers.
+    bool ancheVuota = false;
+    // The key filter of the box, or nullptr for none.
+    int (*filtro)(int& keyAscii) = nullptr;
+    // A right answer in this box is only a step of the question: this runs instead, and nothing is
+    // counted. A wrong one counts as any other.
+    std::function<void()> passo = nullptr;
 };
 
 // The fonts and places of the question, the answer box and the prompt under it.
@@ -69,9 +94,10 @@ public:
 
     // Closing the window from outside is the same as "Esci": it asks first.
     void CloseBox() override { mnuEsci_Click(); }
-    // The frame's part of Load, which every screen's Load runs first: on the screens that ask for it,
-    // the limit panel chooses 99.
+    // On the screens that ask for it the limit panel chooses 99; then the screen is set up as its
+    // options say.
     void Load() override;
+    void Activate() override;
 
     Variante variante() const { return variante_; }
     int16_t numeroScheda() const { return numeroScheda_; }
@@ -79,7 +105,11 @@ public:
 protected:
     // Makes the next question.
     virtual void NuovaDomanda() = 0;
-    virtual void BottoneAvanti_Click() {}
+    // What the screen sets up of its own as it starts, after the counters and before the first
+    // question.
+    virtual void Prepara() {}
+    // The answer's controls back on and whatever Riprendi puts back, then the next question.
+    virtual void BottoneAvanti_Click();
     // Sets this screen's worksheet and shows the worksheet screen over it.
     virtual void mnuStampa_Click();
     // Asks whether to go back to the main menu, and goes on Yes.
@@ -92,9 +122,28 @@ protected:
     void RispostaEsatta();
     // The sad face, one more wrong answer, the gentle sound, the counter written.
     void RispostaErrata();
-    // A right answer, then either the wait for "avanti" (enabled, and what the screen shows while it
-    // waits) or, with the button hidden, the next question at once.
-    void RispostaEsattaPoiAvanti(const std::function<void()>& inAttesa = {});
+
+    // ---- The answer cycle, the same however the child answers: a box, a button, a cell ----
+    // A right answer: the screen's own part (Esatta), the smiling face, the count and the sound,
+    // then, unless the question goes on, either the wait for "avanti" (enabled, the answer's
+    // controls off, and what InAttesa shows) or, with the button hidden, the next question at once.
+    // A wrong answer: the sad face, the count and the sound, and the answer stays to be mended.
+    void Rispondi(bool giusta);
+    // The screen's own part of a right answer, before it is counted: a number written, a cell red.
+    virtual void Esatta() {}
+    // After a right answer that leaves the question open, the screen goes on by itself and says
+    // true: the number line asks its next tick.
+    virtual bool ContinuaDomanda() { return false; }
+    // What the screen shows while it waits for "avanti", besides its answer's controls off.
+    virtual void InAttesa() {}
+    // What "avanti" puts back besides the answer's controls, before the next question.
+    virtual void Riprendi() {}
+    // A control the child answers with: off while the screen waits for "avanti", on again with it.
+    void RispondeCon(QWidget* control) { risposta_.push_back(control); }
+    // The box the child writes the answer in, placed and named, its text judged by giusta on Enter
+    // as the options say. After a wrong answer it has the focus back.
+    TextBox* CasellaRisposta(const QString& name, const Rect& r, const QFont& font,
+                             std::function<bool(const QString& testo)> giusta, OpzioniCasella casella = {});
 
     // A panel of choices lying over the whole screen, hidden until shown: its caption, then large
     // option tiles in columns, each choice handed to scelta with its index.
@@ -123,9 +172,14 @@ protected:
     ControlArray<OptionButton> OpzioneNumeroMassimo;
 
 private:
+    // The counters to 0, the screen's own preparation and a first question.
+    void Imposta();
+    void MostraAvanti();
+
     Variante variante_;
     int16_t numeroScheda_;
     FrameOptions options_;
+    std::vector<QWidget*> risposta_;
 };
 
 // The screens that ask a question in EtichettaNumero and take the answer typed in Text1 on Enter:
@@ -135,18 +189,13 @@ class QuestionForm : public ExerciseForm {
 public:
     using Look = QuestionLook;
     QuestionForm(Program& app, Variante variante, int16_t numeroScheda, Look look = {},
-                 FrameOptions options = {});
-
-    void Load() override;
-    void Activate() override;
+                 FrameOptions options = {}, OpzioniCasella casella = {});
 
 protected:
-    void BottoneAvanti_Click() override;
-    // Enter released on a text that isn't empty: the answer judged, then counted.
-    void Text1_KeyUp(int keyCode, int shift);
     // Whether the text in the box answers the question: by default its digits against NumeroEsatto.
     virtual bool RispostaGiusta();
     // What a right answer shows while the screen waits for "avanti": the answer after the question.
+    void InAttesa() override { MostraRispostaEsatta(); }
     virtual void MostraRispostaEsatta();
     // Empties the box, writes the question and gives the box the focus when it can take it.
     void ScriviDomanda(const QString& caption);

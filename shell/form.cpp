@@ -1,7 +1,7 @@
 // Screens: their window, their menu bar, and the place and names of their controls.
 
 #include "shell/form.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/printout.h"
 #include "shell/program.h"
 #include "shell/stile.h"
@@ -109,13 +109,13 @@ void Form::setBackColor(QColor c) {
     // too; each control chooses its own against what it really stands on.
     p.setColor(QPalette::WindowText, InchiostroSu(c));
     setPalette(p);
-    adattaInchiostri();
+    fitInks();
     update();
 }
 
-void Form::adattaInchiostri() {
+void Form::fitInks() {
     for (Control* c : controls_)
-        c->adattaInchiostro();
+        c->fitInk();
 }
 
 void Form::paintEvent(QPaintEvent*) {

@@ -2,6 +2,7 @@
 // A screen: its window, its menu bar, its named controls in twips, and the way to the next screen.
 
 #include "shell/controls.h"
+#include "shell/navigator.h"
 
 namespace contarello {
 
@@ -26,7 +27,7 @@ public:
     // The background; every caption on the screen then takes a colour that reads on what it
     // stands on.
     void setBackColor(QColor c);
-    void adattaInchiostri();
+    void fitInks();
     QColor BackColor() const { return backColor_; }
     // Only a screen with a title bar shows its caption.
     QString Caption() const { return caption_; }

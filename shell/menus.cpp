@@ -148,27 +148,19 @@ constexpr Intestazione kIntestazioniGrafici[] = {
 
 constexpr int kColumnLeft = 240, kColumnStep = 3240, kButtonWidth = 3000, kButtonHeight = 615, kRowStep = 675;
 
-constexpr ExerciseMenuForm::Layout kMenuNumeri = {
-    "FormMenuNumeri", 10080, 7980, kVociNumeri, int(std::size(kVociNumeri)), nullptr, 0, 240, 1, 6480};
-
-// The number lines stand under their own heading, a little below the last row of the columns.
-constexpr ExerciseMenuForm::Layout kMenuGrafici = {"FormMenuGrafici",
-                                                   10080,
-                                                   7980,
-                                                   kVociGrafici,
-                                                   int(std::size(kVociGrafici)),
-                                                   kIntestazioniGrafici,
-                                                   int(std::size(kIntestazioniGrafici)),
-                                                   600,
-                                                   2,
-                                                   6360};
+// On FormMenuGrafici the number lines stand under their own heading, a little below the last row
+// of the columns.
+constexpr ExerciseMenuForm::Layout kMenus[] = {
+    {"FormMenuNumeri", 10080, 7980, kVociNumeri, int(std::size(kVociNumeri)), nullptr, 0, 240, 1, 6480},
+    {"FormMenuGrafici", 10080, 7980, kVociGrafici, int(std::size(kVociGrafici)), kIntestazioniGrafici,
+     int(std::size(kIntestazioniGrafici)), 600, 2, 6360},
+};
 
 } // namespace
 
-const ExerciseMenuForm::Layout* ExerciseMenuForm::Find(const QString& form) {
-    for (const Layout* l : {&kMenuNumeri, &kMenuGrafici})
-        if (form == QLatin1String(l->name)) return l;
-    return nullptr;
+FormList MenuForms() {
+    return Join(
+        {{Screen<FormAvvio>("FormAvvio"), Screen<FormMenu>("FormMenu")}, Members<ExerciseMenuForm>(kMenus)});
 }
 
 ExerciseMenuForm::ExerciseMenuForm(Program& program, const Layout& layout)

@@ -50,7 +50,7 @@ class ExerciseMenuForm : public Form {
     Q_OBJECT
 public:
     struct Layout {
-        const char* name;
+        const char* form;
         int width, height;
         const VoceMenu* voci;
         int nVoci;
@@ -60,9 +60,10 @@ public:
         int command1Column, command1Top;
     };
     ExerciseMenuForm(Program& app, const Layout& layout);
-    // The layout of FormMenuNumeri or FormMenuGrafici by name.
-    static const Layout* Find(const QString& form);
     void Load() override;
 };
+
+// The start screen and the three menus, each under its own name.
+FormList MenuForms();
 
 } // namespace contarello

@@ -17,6 +17,13 @@ void toFront(Form* form) {
 }
 } // namespace
 
+FormList Join(std::initializer_list<FormList> lists) {
+    FormList all;
+    for (const FormList& l : lists)
+        all.insert(all.end(), l.begin(), l.end());
+    return all;
+}
+
 Navigator::Navigator(Program& app, std::vector<FormEntry> table, EventLog* log)
     : app_(app), table_(std::move(table)), log_(log) {}
 
@@ -47,7 +54,7 @@ Form* Navigator::Show(const QString& name) {
         auto it = std::find_if(table_.begin(), table_.end(),
                                [&](const FormEntry& e) { return name == QLatin1String(e.name); });
         if (it == table_.end()) return nullptr;
-        form = it->make(app_, name).release();
+        form = it->make(app_).release();
         if (!form) return nullptr;
         // The table is the one source of a screen's name.
         form->setObjectName(name);

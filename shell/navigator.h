@@ -13,12 +13,33 @@ struct Program;
 class Form;
 class EventLog;
 
-// Makes the screen of that name; nullptr if it can't.
-using FormFactory = std::unique_ptr<Form> (*)(Program&, const QString& name);
+// A screen's name and what makes it. Each family lists its own screens (see Screen and Members
+// below); the program's table of screens only puts the families' lists together.
+using FormFactory = std::function<std::unique_ptr<Form>(Program&)>;
 struct FormEntry {
     const char* name;
     FormFactory make;
 };
+using FormList = std::vector<FormEntry>;
+
+// The lists one after the other.
+FormList Join(std::initializer_list<FormList> lists);
+
+// A screen of its own class, under its name.
+template <class F> FormEntry Screen(const char* name) {
+    return {name, [](Program& app) -> std::unique_ptr<Form> { return std::make_unique<F>(app); }};
+}
+
+// Every member of a family table, each under the name its row gives (the row's `form`), made by the
+// family's class from that row. The rows must outlive the list: the families' tables are constants.
+template <class F, class Table> FormList Members(const Table& table) {
+    FormList list;
+    for (const auto& member : table)
+        list.push_back({member.form, [&member](Program& app) -> std::unique_ptr<Form> {
+                            return std::make_unique<F>(app, member);
+                        }});
+    return list;
+}
 
 class Navigator {
 public:

@@ -1,6 +1,6 @@
 #include "shell/printout.h"
 #include "core/lang.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/form.h"
 #include "shell/program.h"
 

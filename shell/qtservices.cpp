@@ -1,6 +1,6 @@
 #include "shell/qtservices.h"
 #include "shell/controls.h"
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/printout.h"
 #include "shell/stile.h"
 #include "shell/style.h"

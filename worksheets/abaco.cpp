@@ -1,6 +1,7 @@
 #include "worksheets/abaco.h"
 #include "core/lang.h"
 #include "core/numberwords.h"
+#include "shell/colori.h"
 #include "shell/program.h"
 #include "worksheets/caselle.h"
 
@@ -13,14 +14,6 @@ namespace {
 
 // The page is 7200 twips high under its menu bar.
 constexpr int kLargo = 9570, kAlto = 7200 + 360;
-const QColor kBianco(0xff, 0xff, 0xff);
-const QColor kRosso(0xff, 0x00, 0x00);
-const QColor kBlu(0x00, 0x00, 0xff);
-
-QString Parola(int numero, Modulo1& g) {
-    long long n = numero; // the routine uses its number up
-    return NumeroInParole(n, g);
-}
 
 } // namespace
 
@@ -103,7 +96,7 @@ void formSt99a::Genera8Numeri() {
     QString testi[8];
     for (int i = 0; i < 8; ++i) {
         numeri_[i] = Disegna();
-        testi[i] = Parola(numeri_[i], g) + QStringLiteral(" ___ ");
+        testi[i] = InParole(numeri_[i], g) + QStringLiteral(" ___ ");
     }
     Scrivi(testi);
 }
@@ -169,6 +162,10 @@ void formSt99b::Genera8Numeri() {
         for (int j = 0; x > 0 && j < 9; ++j, --x)
             Shape2(9 * i + j)->setVisible(true);
     }
+}
+
+FormList AbacoSheetForms() {
+    return {Screen<formSt99a>("formSt99a"), Screen<formSt99b>("formSt99b")};
 }
 
 } // namespace contarello

@@ -78,4 +78,7 @@ private:
     ControlArray<Shape> Shape2; // units beads
 };
 
+// formSt99a and formSt99b, each under its own name.
+FormList AbacoSheetForms();
+
 } // namespace contarello

@@ -1,6 +1,7 @@
 #include "worksheets/longsheets.h"
 #include "core/lang.h"
 #include "core/numberwords.h"
+#include "shell/colori.h"
 #include "shell/program.h"
 #include "worksheets/caselle.h"
 
@@ -22,7 +23,7 @@ int Colonna(int i) {
 
 LongsSheetForm::LongsSheetForm(Program& program, const QString& intestazione, int topTesta, int altezzaTesta)
     : Form(program, kLarghezza, kAltezza) {
-    setBackColor(QColor(0xff, 0xff, 0xff));
+    setBackColor(kBianco);
     mnustampa = menu(QStringLiteral("mnustampa"), QStringLiteral("Stampa   "));
     menu(QStringLiteral("mnuPdf"), QStringLiteral("Salva PDF   "))->Click = [this] { SalvaPdf(); };
     mnuesci = menu(QStringLiteral("mnuesci"), QStringLiteral("Esci"));
@@ -92,14 +93,14 @@ formStampa4::formStampa4(Program& program)
             Shape* lungo =
                 shape(indexed(QStringLiteral("Shape2"), n), Shape::Rectangle, 120, top, 1500, 150, Frame1(i));
             lungo->setFillStyle(Shape::Solid);
-            lungo->setFillColor(QColor(0xff, 0x00, 0x00));
+            lungo->setFillColor(kRosso);
             Shape2.set(n, lungo);
             // In the first cell the first two units stand the other way round.
             const int topUnita = n == 0 ? 480 : n == 1 ? 240 : top;
             Shape* unita = shape(indexed(QStringLiteral("Shape1"), n), Shape::Square, 1680, topUnita, 150,
                                  150, Frame1(i));
             unita->setFillStyle(Shape::Solid);
-            unita->setFillColor(QColor(0x00, 0x00, 0xff));
+            unita->setFillColor(kBlu);
             Shape1.set(n, unita);
         }
     }
@@ -123,6 +124,10 @@ void formStampa4::Genera8Numeri() {
             x -= 1;
         }
     }
+}
+
+FormList LongsSheetForms() {
+    return {Screen<formStampa1>("formStampa1"), Screen<formStampa4>("formStampa4")};
 }
 
 } // namespace contarello

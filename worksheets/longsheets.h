@@ -55,4 +55,7 @@ private:
     ControlArray<Shape> Shape2; // the longs, likewise
 };
 
+// formStampa1 and formStampa4, each under its own name.
+FormList LongsSheetForms();
+
 } // namespace contarello

@@ -1,4 +1,5 @@
 #include "worksheets/stampa.h"
+#include "shell/colori.h"
 #include "shell/pictures.h"
 #include "shell/printout.h"
 #include "shell/program.h"
@@ -27,7 +28,7 @@ MultiLineTextBox* Pagina(QWidget* parent) {
 } // namespace
 
 formStampa::formStampa(Program& program) : Form(program, 9480, 6795) {
-    setBackColor(QColor(0xff, 0xff, 0x00));
+    setBackColor(kGiallo);
 
     // Made first, so the sheet is first in the tab order: the adult may correct it by hand.
     txtCD = adopt(Pagina(client()), QStringLiteral("txtCD"), 75, 165, 6090, 6630);
@@ -117,11 +118,8 @@ void formStampa::NuovaScheda() {
     in.NumeroRighe = NumeroRighe;
     in.NumeroColonne = NumeroColonne;
     // The ordering worksheet asks for rows as long, and in the order, that its screen asks for.
-    if (Form* ord = app.nav.find(QStringLiteral("FormOrd"))) {
-        if (auto* label3 = dynamic_cast<Label*>(ord->find(QStringLiteral("Label3"))))
-            in.ordRowLength = label3->Caption();
-        in.ordTask = ord->Caption();
-    }
+    in.ordRowLength = g.OrdinaRiga;
+    in.ordTask = g.OrdinaConsegna;
     const Scheda scheda = FaiScheda(g.NumeroScheda, in, g, app.rnd);
     txtCD->setText(scheda.txtCD);
     TextCor->setText(scheda.TextCor);
@@ -151,6 +149,10 @@ QJsonObject formStampa::fields() const {
     return {{QStringLiteral("NumeroRighe"), NumeroRighe},
             {QStringLiteral("NumeroColonne"), NumeroColonne},
             {QStringLiteral("GrandezzaCarattere"), GrandezzaCarattere}};
+}
+
+FormList StampaForms() {
+    return {Screen<formStampa>("formStampa")};
 }
 
 } // namespace contarello

@@ -50,4 +50,7 @@ private:
     int16_t GrandezzaCarattere = 12;
 };
 
+// formStampa under its name.
+FormList StampaForms();
+
 } // namespace contarello

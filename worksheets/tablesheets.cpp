@@ -106,4 +106,8 @@ void formStampa3::Genera8Numeri() {
     }
 }
 
+FormList TableSheetForms() {
+    return {Screen<formStampa2>("formStampa2"), Screen<formStampa3>("formStampa3")};
+}
+
 } // namespace contarello

@@ -56,4 +56,7 @@ protected:
     void RiempiTabella() override;
 };
 
+// formStampa2 and formStampa3, each under its own name.
+FormList TableSheetForms();
+
 } // namespace contarello

@@ -1,5 +1,5 @@
 // The table of screens: every entry makes its screen under its own name, every button of the two
-// exercise menus opens a screen, and every "Stampa scheda" of an exercise opens a worksheet.
+// exercise menus opens its own screen, and every "Stampa scheda" of an exercise opens a worksheet.
 
 #include "app/screens.h"
 #include "support/harness.h"
@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
@@ -42,19 +43,46 @@ private slots:
         }
     }
 
-    void everyMenuButtonOpensAScreen() {
-        for (const QString menu : {"FormMenuNumeri", "FormMenuGrafici"}) {
-            Harness h;
-            h.run(QStringLiteral(R"({"show": "%1"})").arg(menu));
-            const QStringList buttons = h.dump().value("controls").toObject().keys();
-            for (const QString& b : buttons) {
-                if (!b.startsWith("Command")) continue;
-                Harness one;
-                one.run(QStringLiteral(R"({"show": "%1"})").arg(menu));
-                one.run(QStringLiteral(R"({"click": "%1"})").arg(b));
-                QVERIFY2(one.form() != menu, qPrintable(menu + '/' + b + " opens nothing"));
-            }
+    // Each button of the two exercise menus opens its own exercise, and "Torna al menù generale" the
+    // main menu; every button of the menu is in the list.
+    void everyMenuButtonOpensItsScreen_data() {
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("buttons"); // button=screen, ...
+        QTest::newRow("FormMenuNumeri")
+            << "FormMenuNumeri"
+            << "Command1=FormMenu Command6=FormScri Command36=FormScri2 Command8=FormSimb Command7=FormMM "
+               "Command9=FormOrd Command13=Formmez Command12=Formdopo Command11=Formpri Command10=Formesp "
+               "Command37=Form1 Command14=Form1a Command38=Form10 Command15=Form10a Command39=Form100 "
+               "Command16=Form100bis Command2=Form1ma Command17=Form1m Command3=Form10m Command18=Form10ma "
+               "Command4=Form100m Command19=Form100ma Command21=FormCol1 Command22=FormCol2 "
+               "Command27=FormCol3 Command26=FormCol4";
+        QTest::newRow("FormMenuGrafici")
+            << "FormMenuGrafici"
+            << "Command1=FormMenu Command2=Form999x Command3=Form999z Command34=Form999y Command10=FormGraf1 "
+               "Command23=FormGraf Command11=FormGrafMeno1 Command24=FormGrafMeno Command4=Form99a "
+               "Command5=Form99b1 Command35=Form99b Command8=Form99c1 Command20=Form99c Command9=Form99d1 "
+               "Command25=Form99d Command6=Form100Trova Command7=Form100Ricon Command30=Form100a "
+               "Command29=Form100b Command28=Form100f Command33=Form100c Command32=Form100d "
+               "Command31=Form100e Command12=FormGradi20 Command13=FormGradi20bis";
+    }
+    void everyMenuButtonOpensItsScreen() {
+        QFETCH(QString, menu);
+        QFETCH(QString, buttons);
+        QStringList listed;
+        for (const QString& pair : buttons.split(' ')) {
+            const QString button = pair.section('=', 0, 0), screen = pair.section('=', 1);
+            listed << button;
+            Harness one;
+            one.run(QStringLiteral(R"({"show": "%1"})").arg(menu));
+            one.run(QStringLiteral(R"({"click": "%1"})").arg(button));
+            QVERIFY2(one.form() == screen, qPrintable(menu + '/' + button + " opens " + one.form()));
         }
+        Harness h;
+        h.run(QStringLiteral(R"({"show": "%1"})").arg(menu));
+        QStringList all = h.dump().value("controls").toObject().keys().filter(QRegularExpression("^Command"));
+        all.sort();
+        listed.sort();
+        QCOMPARE(all, listed);
     }
 
     void everyWorksheetMenuOpensAWorksheet() {

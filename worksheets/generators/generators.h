@@ -13,8 +13,8 @@ namespace contarello {
 struct SchedaInput {
     int NumeroRighe = 5;   // 3,5,10,15,20,25
     int NumeroColonne = 2; // 1..6
-    // FormOrd's Label3 caption and window caption (FaiScheda4). When FormOrd is gone the sheet is
-    // built as from a FormOrd just loaded, never blank.
+    // The numbers to a row and the order FormOrd asks (FaiScheda4); by default as from a FormOrd
+    // just loaded, never blank.
     QString ordRowLength = QStringLiteral("8");
     QString ordTask = QStringLiteral("Ordina i numeri dal minore al maggiore ");
 };

@@ -23,8 +23,7 @@ void FaiScheda1(const SchedaInput& in, Modulo1& g, Random& rnd, Scheda& s) {
     Intestazione(s, kInCifre);
     for (int riga = 1, righe = Righe(in); riga <= righe; ++riga) {
         const int x = Draw(rnd, g.NumeroMassimo);
-        long long copia = x; // the words use their number up
-        const QString parole = NumeroInParole(copia, g);
+        const QString parole = InParole(x, g);
         s.txtCD += kMargine + parole + u"  _______________"_s;
         s.TextCor += kMargine + parole + u"   "_s + Str(x);
         ChiudiRiga(s);

@@ -1,7 +1,7 @@
 // Every test process draws, lays out and prints with the program's own fonts and toolkit set-up,
 // as the program and the driver do, whatever fonts the machine happens to hold.
 
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 #include "shell/qtservices.h"
 
 #include <QApplication>

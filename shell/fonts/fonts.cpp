@@ -1,4 +1,4 @@
-#include "shell/fonts.h"
+#include "shell/fonts/fonts.h"
 
 #include <QFileInfo>
 #include <QString>
