@@ -6,29 +6,15 @@
 #include "driver/engine.h"
 #include "shell/fonts/fonts.h"
 #include "shell/qtservices.h"
+#include "support/memory.h"
 
 #include <QApplication>
-#include <QFile>
 #include <cstdio>
-#include <malloc.h>
 #include <vector>
 
 using namespace contarello;
 
 namespace {
-
-double residentMB() {
-    QFile f(QStringLiteral("/proc/self/status"));
-    if (!f.open(QIODevice::ReadOnly)) return 0;
-    for (const QByteArray& line : f.readAll().split('\n'))
-        if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').value(0).toDouble() / 1024;
-    return 0;
-}
-
-double heapMB() {
-    const struct mallinfo2 m = mallinfo2();
-    return double(m.uordblks + m.hblkhd) / (1024 * 1024);
-}
 
 struct Sample {
     long actions;
@@ -99,7 +85,7 @@ private:
         if (recording_ && actions_ % every_ == 0) record();
     }
     void record() {
-        samples_.push_back({actions_, residentMB(), heapMB()});
+        samples_.push_back({actions_, test::ResidentMB(), test::HeapInUse() / (1024.0 * 1024)});
         std::printf("%10ld %10.1f %10.2f\n", actions_, samples_.back().rss, samples_.back().heap);
         std::fflush(stdout);
     }
@@ -126,9 +112,9 @@ int main(int argc, char** argv) {
 
     Soak soak(std::max(1L, n / 10));
     soak.changeScreens(warmUp);
-    const double before = residentMB();
+    const double before = test::ResidentMB();
     std::printf("after %ld screen changes to warm up: %.1f MB resident, %.2f MB heap\n", warmUp, before,
-                heapMB());
+                test::HeapInUse() / (1024.0 * 1024));
     soak.start("screens made and unloaded");
     soak.changeScreens(n);
     soak.finish();
@@ -136,6 +122,6 @@ int main(int argc, char** argv) {
     soak.answer(n);
     soak.finish();
     std::printf("\n%ld screen changes and %ld answers after the warm-up: %+.1f MB resident\n", n, n,
-                residentMB() - before);
+                test::ResidentMB() - before);
     return 0;
 }
