@@ -4,7 +4,7 @@
 #include "shell/fonts/fonts.h"
 #include "shell/printout.h"
 #include "shell/program.h"
-#include "shell/stile.h"
+#include "shell/scaledstyle.h"
 
 #include <QAction>
 #include <QMenu>
@@ -244,7 +244,7 @@ MenuItem* Form::menu(const QString& name, const QString& caption, MenuItem* pare
     // A drop-down menu reads like the bar it hangs from, at the program's scale.
     if (parentItem) {
         holder->setFont(menuBar_->font());
-        AllaScala(*holder);
+        FollowTheScale(*holder);
     }
     auto* a = new QAction(caption, holder);
     holder->insertAction(before ? before->action() : nullptr, a);

@@ -2,7 +2,7 @@
 #include "shell/controls.h"
 #include "shell/fonts/fonts.h"
 #include "shell/printout.h"
-#include "shell/stile.h"
+#include "shell/scaledstyle.h"
 #include "shell/style.h"
 
 #include <QApplication>
@@ -124,7 +124,7 @@ int QtDialogs::MsgBox(const QString& text, int style, const QString& title) {
     const bool siNo = (style & 0xF) == 4;
     box.setStandardButtons(siNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     if (siNo) box.setDefaultButton(QMessageBox::Yes);
-    AllaScala(box);
+    FollowTheScale(box);
     // The icon drawn at the box's own scale, not grown from the toolkit's small one.
     if (icona != QStyle::SP_CustomBase) {
         const int lato = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
@@ -151,7 +151,7 @@ QString QtDialogs::InputBox(const QString& prompt, const QString& title, const Q
     box.setTextValue(defaultText);
     box.setMinimumWidth(LarghezzaPerTitolo(title));
     box.okButtonText(); // the box makes its parts on first need: here, so that they take the scale
-    AllaScala(box);
+    FollowTheScale(box);
     return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 

@@ -1,4 +1,4 @@
-#include "shell/stile.h"
+#include "shell/scaledstyle.h"
 #include "shell/controls.h"
 #include "shell/style.h"
 
@@ -13,32 +13,31 @@ namespace contarello {
 
 namespace {
 
-int scalato(int pixels) {
+int scaled(int pixels) {
     return int(std::lround(pixels * ScaleFactor()));
 }
 
 // The program's style with every size grown by the factor, read afresh at each call.
-class StileScalato : public QProxyStyle {
+class ScaledStyle : public QProxyStyle {
 public:
-    StileScalato() : QProxyStyle(new ProgramStyle) {}
+    ScaledStyle() : QProxyStyle(new ProgramStyle) {}
 
     int pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const override {
         const int v = QProxyStyle::pixelMetric(m, o, w);
-        return v > 0 ? scalato(v) : v;
+        return v > 0 ? scaled(v) : v;
     }
 
-    QSize sizeFromContents(ContentsType t, const QStyleOption* o, const QSize& contenuto,
+    QSize sizeFromContents(ContentsType t, const QStyleOption* o, const QSize& contents,
                            const QWidget* w) const override {
-        QSize s = QProxyStyle::sizeFromContents(t, o, contenuto, w);
+        QSize s = QProxyStyle::sizeFromContents(t, o, contents, w);
         switch (t) {
         case CT_PushButton: // the style's smallest button is 80 pixels wide
-            s = s.expandedTo(QSize(scalato(80), 0));
+            s = s.expandedTo(QSize(scaled(80), 0));
             break;
         case CT_MenuItem: { // room around an item's text, and its smallest width, in fixed pixels
-            const QSize attorno = s - contenuto;
-            s = QSize(contenuto.width() + scalato(attorno.width()),
-                      contenuto.height() + scalato(attorno.height()));
-            s = s.expandedTo(QSize(scalato(120), 0));
+            const QSize around = s - contents;
+            s = QSize(contents.width() + scaled(around.width()), contents.height() + scaled(around.height()));
+            s = s.expandedTo(QSize(scaled(120), 0));
             break;
         }
         default:
@@ -48,22 +47,22 @@ public:
     }
 };
 
-QStyle* Stile() {
-    static QPointer<StileScalato> stile;
-    if (!stile) {
-        stile = new StileScalato;
-        stile->setParent(qApp);
+QStyle* TheScaledStyle() {
+    static QPointer<ScaledStyle> style;
+    if (!style) {
+        style = new ScaledStyle;
+        style->setParent(qApp);
     }
-    return stile;
+    return style;
 }
 
 } // namespace
 
-void AllaScala(QWidget& w) {
-    QStyle* stile = Stile();
-    w.setStyle(stile);
+void FollowTheScale(QWidget& w) {
+    QStyle* style = TheScaledStyle();
+    w.setStyle(style);
     for (QWidget* c : w.findChildren<QWidget*>())
-        c->setStyle(stile);
+        c->setStyle(style);
 }
 
 } // namespace contarello
