@@ -1,5 +1,6 @@
 #include "driver/engine.h"
 #include "app/screens.h"
+#include "driver/describe.h"
 #include "shell/form.h"
 
 #include <QCloseEvent>
@@ -324,11 +325,8 @@ QJsonObject DriverEngine::dump(Form* form) {
             for (Control* c : form->controls())
                 if (c->widget() == fw) focus = c->name();
         out[QStringLiteral("focus")] = focus.isEmpty() ? QJsonValue() : QJsonValue(focus);
-        for (Control* c : form->controls()) {
-            QJsonObject one;
-            c->describe(one);
-            controls[c->name()] = one;
-        }
+        for (Control* c : form->controls())
+            controls[c->name()] = describe(*c);
         const QJsonObject fields = form->fields();
         if (!fields.isEmpty()) out[QStringLiteral("fields")] = fields;
     }

@@ -3,6 +3,7 @@
 // captions kept to the blank, handlers as plain functions, control arrays named Name(i), and every
 // control findable by its name so that the driver and the tests need no hooks of their own.
 
+#include "shell/look.h"
 #include "shell/scale.h"
 
 #include <QAbstractButton>
@@ -10,7 +11,6 @@
 #include <QFont>
 #include <QFrame>
 #include <QGroupBox>
-#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -22,16 +22,12 @@
 #include <map>
 #include <vector>
 
-class QAction;
-class QMenu;
-class QMenuBar;
 class QMimeData;
 
 namespace contarello {
 
 struct Program;
 struct Modulo1;
-class Form;
 
 // One scale factor for the whole program, applied where twips become pixels: geometry, fonts, line
 // widths and pictures grow together, so every screen keeps its proportions. 1 unless main sets it.
@@ -53,10 +49,6 @@ inline double px(double pixels) {
 QFont Arial(double points, bool bold = true);
 QFont SansSerif(double points, bool bold = false); // "MS Sans Serif", mapped to Liberation Sans
 QString colourName(QColor c);
-// How far apart two colours stand to the eye: 1 for the same, 21 for black on white.
-double Contrasto(QColor a, QColor b);
-// Black or white, whichever reads better on the given ground.
-QColor InchiostroSu(QColor fondo);
 
 enum MouseButton { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
 
@@ -68,8 +60,6 @@ public:
     virtual QObject* object() = 0;
     // nullptr for menu items.
     virtual QWidget* widget() { return qobject_cast<QWidget*>(object()); }
-    // Adds what fits the kind (caption, text, value...) to a dump.
-    virtual void describe(QJsonObject& out) const = 0;
 
     QString name() const { return const_cast<Control*>(this)->object()->objectName(); }
     // The properties as the program set them, not whether the window shows. Screens set them
@@ -83,6 +73,9 @@ public:
     // Any control with a DragDrop handler is a drop target for labels with DragMode 1.
     std::function<void(Control* source)> DragDrop;
     void acceptDrops();
+    // Set by the screen that names the control: a label dropped here, known by its name, goes to
+    // DragDrop as the control the screen knows by that name.
+    std::function<void(const QString& sourceName)> dropped;
 
     // BackColor, when the program sets it.
     virtual void setBackColor(QColor c);
@@ -103,7 +96,6 @@ public:
     void fitInk();
 
 protected:
-    void describeCommon(QJsonObject& out) const;
     QColor backColor_;
     QColor foreColor_;
 };
@@ -114,7 +106,6 @@ public:
     explicit Label(QWidget* parent);
     QString kind() const override { return QStringLiteral("label"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     bool userClick() override;
 
     QString Caption() const { return caption_; }
@@ -152,7 +143,6 @@ public:
     explicit CommandButton(QWidget* parent);
     QString kind() const override { return QStringLiteral("button"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     bool userClick() override;
 
     QString Caption() const { return caption_; }
@@ -185,12 +175,13 @@ public:
     explicit TextBox(QWidget* parent);
     QString kind() const override { return QStringLiteral("textbox"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
 
     QString Text() const { return text(); }
     void setText(const QString& t) { QLineEdit::setText(t); }
     void SetFocus();
     void setFontSize(double points);
+    // Whether the program gave the box a size of its own.
+    bool hasFontSize() const { return fontSizeSet_; }
     QPalette::ColorRole captionRole() const override { return QPalette::Text; }
     QColor captionGround() const override { return palette().color(QPalette::Base); }
 
@@ -220,11 +211,11 @@ public:
     explicit MultiLineTextBox(QWidget* parent);
     QString kind() const override { return QStringLiteral("textbox"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
 
     QString Text() const;
     void setText(const QString& t);
     void setFontSize(double points);
+    bool hasFontSize() const { return fontSizeSet_; }
     void SetFocus();
     int MaxLength = 0;
     QPalette::ColorRole captionRole() const override { return QPalette::Text; }
@@ -244,7 +235,6 @@ public:
     explicit OptionButton(QWidget* parent);
     QString kind() const override { return QStringLiteral("option"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     bool userClick() override;
 
     QString Caption() const { return text(); }
@@ -273,7 +263,6 @@ public:
     explicit Frame(QWidget* parent);
     QString kind() const override { return QStringLiteral("frame"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     QString Caption() const { return title(); }
     void setCaption(const QString& c) { setTitle(c); }
     void setLeft(int twips);
@@ -301,7 +290,6 @@ public:
     Shape(QWidget* parent, Kind k);
     QString kind() const override { return QStringLiteral("shape"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     bool userClick() override;
 
     Kind ShapeKind() const { return shape_; }
@@ -343,7 +331,6 @@ public:
     explicit Image(QWidget* parent);
     QString kind() const override { return QStringLiteral("image"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override { describeCommon(out); }
     void setPicture(const QPixmap& p) { setPixmap(p); }
 };
 
@@ -354,7 +341,6 @@ public:
     Line(QWidget* parent, int x1, int y1, int x2, int y2, QColor colour, int widthPx = 1);
     QString kind() const override { return QStringLiteral("line"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     QColor BorderColor() const { return colour_; }
     void setBorderColor(QColor c);
 
@@ -373,7 +359,6 @@ public:
     ListBox(QWidget* parent, bool sorted);
     QString kind() const override { return QStringLiteral("listbox"); }
     QObject* object() override { return this; }
-    void describe(QJsonObject& out) const override;
     void AddItem(const QString& s);
     void Clear() { clear(); }
     int ListIndex() const { return currentRow(); }
@@ -384,35 +369,6 @@ public:
 
 private:
     bool sorted_;
-};
-
-class MenuItem : public QObject, public Control {
-    Q_OBJECT
-public:
-    MenuItem(QObject* parent, QAction* action);
-    QString kind() const override { return QStringLiteral("menu"); }
-    QObject* object() override { return this; }
-    QWidget* widget() override { return nullptr; }
-    void describe(QJsonObject& out) const override;
-    bool userClick() override;
-    bool Visible() const override;
-    bool Enabled() const override;
-    void setVisible(bool v);
-    void setEnabled(bool e);
-
-    QString Caption() const { return caption_; }
-    void setCaption(const QString& c);
-    bool Checked() const;
-    void setChecked(bool c);
-    QAction* action() const { return action_; }
-    QMenu* submenu(); // made on first use: the item then opens a menu instead of acting
-
-    std::function<void()> Click;
-
-private:
-    QAction* action_;
-    QMenu* submenu_ = nullptr;
-    QString caption_;
 };
 
 // A control array: one name, elements by index, named Name(i).

@@ -45,23 +45,6 @@ QString colourName(QColor c) {
     return c.name(QColor::HexRgb);
 }
 
-namespace {
-// The lightness of a colour as the eye weighs it, from 0 for black to 1 for white.
-double luminanza(QColor c) {
-    auto lineare = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * lineare(c.redF()) + 0.7152 * lineare(c.greenF()) + 0.0722 * lineare(c.blueF());
-}
-} // namespace
-
-double Contrasto(QColor a, QColor b) {
-    const double la = luminanza(a), lb = luminanza(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
-
-QColor InchiostroSu(QColor fondo) {
-    return Contrasto(Qt::black, fondo) >= Contrasto(Qt::white, fondo) ? QColor(Qt::black) : QColor(Qt::white);
-}
-
 // ---- Form ----
 
 Form::Form(Program& program, int widthTwips, int heightTwips)
@@ -120,7 +103,7 @@ void Form::fitInks() {
 
 void Form::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.fillRect(rect(), backColor_.isValid() ? backColor_ : palette().color(QPalette::Window));
+    p.fillRect(rect(), groundColour());
 }
 
 void Form::setCaption(const QString& c) {
@@ -142,6 +125,11 @@ void Form::registerControl(Control* c, const QString& name) {
     c->object()->setObjectName(name);
     controls_.push_back(c);
     byName_[name] = c;
+    // A label dropped on the control is one of this screen's, found by its name.
+    c->dropped = [this, c](const QString& sourceName) {
+        Control* source = find(sourceName);
+        if (source && c->DragDrop) c->DragDrop(source);
+    };
 }
 
 namespace {

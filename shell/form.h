@@ -2,13 +2,18 @@
 // A screen: its window, its menu bar, its named controls in twips, and the way to the next screen.
 
 #include "shell/controls.h"
+#include "shell/menuitem.h"
 #include "shell/navigator.h"
+
+#include <QJsonObject>
+
+class QMenuBar;
 
 namespace contarello {
 
 // A screen. Load, Activate and Unload are run by the navigator; the controls are made in the
-// constructor, as they stand when the screen opens.
-class Form : public QWidget {
+// constructor, as they stand when the screen opens. Its background is what its controls stand on.
+class Form : public QWidget, public Backdrop {
     Q_OBJECT
 public:
     // The screen's name is given by the table of screens when it is made.
@@ -27,8 +32,11 @@ public:
     // The background; every caption on the screen then takes a colour that reads on what it
     // stands on.
     void setBackColor(QColor c);
-    void fitInks();
+    void fitInks() override;
     QColor BackColor() const { return backColor_; }
+    QColor groundColour() const override {
+        return backColor_.isValid() ? backColor_ : palette().color(QPalette::Window);
+    }
     // Only a screen with a title bar shows its caption.
     QString Caption() const { return caption_; }
     void setCaption(const QString& c);
