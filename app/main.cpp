@@ -46,7 +46,9 @@ int main(int argc, char** argv) {
     LazySound sound(files.modules);
     QtDialogs dialogs;
     QtPrinter printer(files.modules);
-    Program app(rnd, sound, dialogs, printer, files.data, FormTable());
+    QtClock clock;
+    SilentSpeech speech;
+    Program app(rnd, sound, dialogs, printer, clock, speech, files.data, FormTable());
     app.nav.setFollowWindowSystem(true);
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
     Main(app);

@@ -63,4 +63,30 @@ QString ScriptedDialogs::SaveFile(const QString& title, const QString& defaultNa
     return result;
 }
 
+int ScriptedClock::after(int ms, std::function<void()> what) {
+    const int ticket = next_++;
+    due_[ticket] = {now_ + std::max(0, ms), std::move(what)};
+    return ticket;
+}
+
+void ScriptedClock::advance(int ms) {
+    const qint64 until = now_ + std::max(0, ms);
+    for (;;) {
+        // The earliest due, the first made among equals; what runs may add or cancel others.
+        auto next = due_.end();
+        for (auto it = due_.begin(); it != due_.end(); ++it)
+            if (it->second.at <= until && (next == due_.end() || it->second.at < next->second.at)) next = it;
+        if (next == due_.end()) break;
+        now_ = next->second.at;
+        auto what = std::move(next->second.what);
+        due_.erase(next);
+        if (what) what();
+    }
+    now_ = until;
+}
+
+void RecordingSpeech::say(const QString& text) {
+    log_.add({{"event", "speak"}, {"text", text}});
+}
+
 } // namespace contarello

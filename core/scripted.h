@@ -5,6 +5,7 @@
 #include "core/services.h"
 
 #include <deque>
+#include <map>
 #include <random>
 
 namespace contarello {
@@ -50,6 +51,34 @@ private:
     std::deque<int> answers_;
     std::deque<QString> texts_;
     std::deque<QString> paths_;
+};
+
+// Time moves only when the script says so: advance runs, in order, whatever falls due.
+class ScriptedClock : public Clock {
+public:
+    qint64 msecs() override { return now_; }
+    int after(int ms, std::function<void()> what) override;
+    void cancel(int ticket) override { due_.erase(ticket); }
+    void advance(int ms);
+
+private:
+    struct Due {
+        qint64 at;
+        std::function<void()> what;
+    };
+    qint64 now_ = 0;
+    int next_ = 1;
+    std::map<int, Due> due_;
+};
+
+// Records each text the voice is given, as a speak event.
+class RecordingSpeech : public Speech {
+public:
+    explicit RecordingSpeech(EventLog& log) : log_(log) {}
+    void say(const QString& text) override;
+
+private:
+    EventLog& log_;
 };
 
 } // namespace contarello

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QString>
 #include <deque>
+#include <functional>
 #include <random>
 #include <vector>
 
@@ -71,6 +72,33 @@ public:
     virtual void printForm(QWidget& form, const QString& formName) = 0;
     // The name of the next document (endDoc or printForm), as the print queue shows it.
     virtual void setDocName(const QString& name) { Q_UNUSED(name); }
+};
+
+// Time, for what waits on it (a finger resting on the screen). The driver and the tests script it,
+// so that no test waits for real time.
+class Clock {
+public:
+    virtual ~Clock() = default;
+    // Milliseconds from a fixed moment of the run.
+    virtual qint64 msecs() = 0;
+    // Runs what once, ms milliseconds from now, unless cancelled first; gives the ticket to cancel it.
+    virtual int after(int ms, std::function<void()> what) = 0;
+    virtual void cancel(int ticket) = 0;
+};
+
+// The voice: says a text, cutting short what it was saying, and never waits for the speech service.
+// Silent when there is no voice.
+class Speech {
+public:
+    virtual ~Speech() = default;
+    virtual void say(const QString& text) = 0;
+    // The voice was turned on: it gets ready now, so that the first question doesn't wait for it.
+    virtual void prepare() {}
+};
+
+class SilentSpeech : public Speech {
+public:
+    void say(const QString& text) override { Q_UNUSED(text); }
 };
 
 // A printer that gathers the document until endDoc, which takes it.

@@ -121,8 +121,9 @@ const char* const kCommands[] = {"seed",     "rnd",   "msgbox", "inputbox",   "s
 } // namespace
 
 DriverEngine::DriverEngine(const QString& appPath)
-    : rnd_(&log_), sound_(log_, appPath), dialogs_(log_), printer_(log_),
-      app_(std::make_unique<Program>(rnd_, sound_, dialogs_, printer_, appPath, FormTable(), &log_)) {}
+    : rnd_(&log_), sound_(log_, appPath), dialogs_(log_), printer_(log_), speech_(log_),
+      app_(std::make_unique<Program>(rnd_, sound_, dialogs_, printer_, clock_, speech_, appPath, FormTable(),
+                                     &log_)) {}
 
 DriverEngine::~DriverEngine() = default;
 

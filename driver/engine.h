@@ -37,6 +37,8 @@ private:
     RecordingSound sound_;
     ScriptedDialogs dialogs_;
     RecordingPrinter printer_;
+    ScriptedClock clock_;
+    RecordingSpeech speech_;
     std::unique_ptr<Program> app_;
     bool started_ = false;
 };

@@ -121,6 +121,12 @@ void Control::acceptDrops() {
     }
 }
 
+bool Control::takeDrop(const Control& source) {
+    if (!dropped || !DragDrop) return false;
+    dropped(source.name());
+    return true;
+}
+
 // ---- Label ----
 
 Label::Label(QWidget* parent) : QLabel(parent) {

@@ -76,6 +76,10 @@ public:
     // Set by the screen that names the control: a label dropped here, known by its name, goes to
     // DragDrop as the control the screen knows by that name.
     std::function<void(const QString& sourceName)> dropped;
+    // A label placed here, however it came (a mouse drop, the keyboard, two clicks, a finger that
+    // slid): the same DragDrop as a mouse drop, with its own rules. False if the control takes no
+    // drops.
+    bool takeDrop(const Control& source);
 
     // BackColor, when the program sets it.
     virtual void setBackColor(QColor c);

@@ -11,16 +11,18 @@
 namespace contarello {
 
 struct Program {
-    Program(Random& r, Sound& s, Dialogs& d, Printer& p, QString path, std::vector<FormEntry> forms,
-            EventLog* events = nullptr)
-        : rnd(r), sound(s), dialogs(d), printer(p), appPath(std::move(path)), log(events),
-          nav(*this, std::move(forms), events) {}
+    Program(Random& r, Sound& s, Dialogs& d, Printer& p, Clock& c, Speech& v, QString path,
+            std::vector<FormEntry> forms, EventLog* events = nullptr)
+        : rnd(r), sound(s), dialogs(d), printer(p), clock(c), speech(v), appPath(std::move(path)),
+          log(events), nav(*this, std::move(forms), events) {}
 
     Modulo1 g;
     Random& rnd;
     Sound& sound;
     Dialogs& dialogs;
     Printer& printer;
+    Clock& clock;
+    Speech& speech;
     QString appPath; // the program's folder, where suoni/ lies
     EventLog* log;   // nullptr in the real program
     Navigator nav;

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -18,11 +19,50 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QTranslator>
 #include <chrono>
 #include <cmath>
 
 namespace contarello {
+
+struct QtClock::State {
+    QElapsedTimer started;
+    QObject context;
+    int next = 1;
+    std::map<int, QTimer*> timers;
+};
+
+QtClock::QtClock() : state_(std::make_unique<State>()) {
+    state_->started.start();
+}
+
+QtClock::~QtClock() = default; // the timers go with their context
+
+qint64 QtClock::msecs() {
+    return state_->started.elapsed();
+}
+
+int QtClock::after(int ms, std::function<void()> what) {
+    const int ticket = state_->next++;
+    auto* timer = new QTimer(&state_->context);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, &state_->context, [this, ticket, what = std::move(what)] {
+        cancel(ticket);
+        if (what) what();
+    });
+    state_->timers[ticket] = timer;
+    timer->start(std::max(0, ms));
+    return ticket;
+}
+
+void QtClock::cancel(int ticket) {
+    auto it = state_->timers.find(ticket);
+    if (it == state_->timers.end()) return;
+    it->second->stop();
+    it->second->deleteLater();
+    state_->timers.erase(it);
+}
 
 void PrepareToolkit(QApplication& app) {
     // Fusion, with its pixmap cache kept from growing for ever (see shell/style.h).

@@ -57,6 +57,20 @@ private:
     bool tried_ = false;
 };
 
+// Real time, on the toolkit's timers: what falls due runs on the thread that draws the screens.
+class QtClock : public Clock {
+public:
+    QtClock();
+    ~QtClock() override;
+    qint64 msecs() override;
+    int after(int ms, std::function<void()> what) override;
+    void cancel(int ticket) override;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
 class QtDialogs : public Dialogs {
 public:
     int MsgBox(const QString& text, int style, const QString& title) override;

@@ -25,7 +25,9 @@ struct Services {
     RecordingSound sound{log, QStringLiteral("/app")};
     ScriptedDialogs dialogs{log};
     RecordingPrinter printer{log};
-    Program app{rnd, sound, dialogs, printer, QStringLiteral("/app"), {}, &log};
+    ScriptedClock clock;
+    RecordingSpeech speech{log};
+    Program app{rnd, sound, dialogs, printer, clock, speech, QStringLiteral("/app"), {}, &log};
 };
 
 // A bare screen that lets the test make controls as a screen does.
@@ -54,7 +56,9 @@ struct RealBoxes {
     RecordingSound sound{log, QStringLiteral("/app")};
     QtDialogs dialogs;
     RecordingPrinter printer{log};
-    Program app{rnd, sound, dialogs, printer, QStringLiteral("/app"), FormTable(), &log};
+    ScriptedClock clock;
+    RecordingSpeech speech{log};
+    Program app{rnd, sound, dialogs, printer, clock, speech, QStringLiteral("/app"), FormTable(), &log};
 };
 
 } // namespace
