@@ -127,6 +127,18 @@ bool Control::takeDrop(const Control& source) {
     return true;
 }
 
+bool Actionable(Control& c) {
+    QWidget* w = c.widget();
+    if (!w || !w->isVisible() || !w->isEnabled()) return false;
+    if (c.DragDrop) return true;
+    if (auto* l = dynamic_cast<Label*>(&c))
+        return l->Click || l->MouseDown || l->MouseUp || l->DragMode() == 1;
+    if (auto* s = dynamic_cast<Shape*>(&c)) return s->Click || s->MouseDown || s->MouseUp;
+    if (auto* t = dynamic_cast<TextBox*>(&c)) return !t->isReadOnly();
+    if (auto* m = dynamic_cast<MultiLineTextBox*>(&c)) return !m->isReadOnly();
+    return dynamic_cast<CommandButton*>(&c) || dynamic_cast<OptionButton*>(&c);
+}
+
 // ---- Label ----
 
 Label::Label(QWidget* parent) : QLabel(parent) {

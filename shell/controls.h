@@ -375,6 +375,11 @@ private:
     bool sorted_;
 };
 
+// Whether a child can act on the control as it stands now: shown, enabled, and a button, an option,
+// a text box that takes typing, or a label or shape that takes a click or a mouse button, can be
+// dragged or takes drops. The keyboard's focus and a finger go to these.
+bool Actionable(Control& c);
+
 // A control array: one name, elements by index, named Name(i).
 template <class T> class ControlArray {
 public:
