@@ -3,6 +3,7 @@
 #include "driver/describe.h"
 #include "shell/form.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -91,6 +92,49 @@ Key keyForCode(int code) {
     return {code, {}};
 }
 
+// A key by the name a script gives it: "Tab", "Shift+Tab", "Enter", "F10", "7", "A".
+bool keyForName(const QString& name, Key& k, Qt::KeyboardModifiers& mods) {
+    static const std::pair<const char*, Key> kNamed[] = {
+        {"Tab", {Qt::Key_Tab, QStringLiteral("\t")}},
+        {"Shift+Tab", {Qt::Key_Backtab, {}}},
+        {"Enter", {Qt::Key_Return, QStringLiteral("\r")}},
+        {"Space", {Qt::Key_Space, QStringLiteral(" ")}},
+        {"Escape", {Qt::Key_Escape, QString(QChar(27))}},
+        {"Backspace", {Qt::Key_Backspace, QStringLiteral("\b")}},
+        {"Delete", {Qt::Key_Delete, {}}},
+        {"Menu", {Qt::Key_Menu, {}}},
+        {"Left", {Qt::Key_Left, {}}},
+        {"Right", {Qt::Key_Right, {}}},
+        {"Up", {Qt::Key_Up, {}}},
+        {"Down", {Qt::Key_Down, {}}},
+        {"Home", {Qt::Key_Home, {}}},
+        {"End", {Qt::Key_End, {}}},
+        {"F2", {Qt::Key_F2, {}}},
+        {"F10", {Qt::Key_F10, {}}},
+        {"F11", {Qt::Key_F11, {}}},
+    };
+    mods = name == u"Shift+Tab" ? Qt::ShiftModifier : Qt::NoModifier;
+    for (const auto& [n, key] : kNamed)
+        if (name == QLatin1String(n)) {
+            k = key;
+            return true;
+        }
+    if (name.size() == 1 && ((name[0] >= u'0' && name[0] <= u'9') || (name[0] >= u'A' && name[0] <= u'Z'))) {
+        k = keyForCode(name[0].unicode());
+        return true;
+    }
+    return false;
+}
+
+// Whatever has the keyboard's focus on the screen: an open menu first, then the focused control,
+// else the screen itself.
+QWidget* keyboardFocus(Form* form) {
+    if (QWidget* popup = QApplication::activePopupWidget())
+        return popup->focusWidget() ? popup->focusWidget() : popup;
+    QWidget* w = form->focusWidget();
+    return w && w->isVisible() ? w : form;
+}
+
 void sendKey(QWidget* w, const Key& k, int repeat) {
     QKeyEvent first(QEvent::KeyPress, k.key, Qt::NoModifier, k.text, false);
     QCoreApplication::sendEvent(w, &first);
@@ -116,7 +160,7 @@ Qt::MouseButton qtButton(int vb) {
 const char* const kSetupCommands[] = {"seed", "rnd", "msgbox", "inputbox", "savefile"};
 const char* const kCommands[] = {"seed",     "rnd",   "msgbox", "inputbox",   "savefile", "show",
                                  "activate", "click", "menu",   "mousedown",  "type",     "key",
-                                 "settext",  "drag",  "dump",   "screenshot", "close"};
+                                 "settext",  "drag",  "dump",   "screenshot", "close",    "press"};
 
 } // namespace
 
@@ -242,6 +286,24 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         return ok();
     }
     if (!form) return fail(QStringLiteral("no active screen"));
+    if (verb == u"press") {
+        Key k;
+        Qt::KeyboardModifiers mods;
+        if (!keyForName(arg.toString(), k, mods))
+            return fail(QStringLiteral("no key named ") + arg.toString());
+        const int repeat = std::max(1, cmd.value(QStringLiteral("repeat")).toInt(1));
+        for (int i = 0; i < repeat && !app_->nav.ended() && app_->nav.active(); ++i) {
+            // Pressed on what has the focus; released on what has it then, as a keyboard does.
+            QKeyEvent press(QEvent::KeyPress, k.key, mods, k.text, false);
+            QCoreApplication::sendEvent(keyboardFocus(app_->nav.active()), &press);
+            settle();
+            if (app_->nav.ended() || !app_->nav.active()) break;
+            QKeyEvent release(QEvent::KeyRelease, k.key, mods, k.text, false);
+            QCoreApplication::sendEvent(keyboardFocus(app_->nav.active()), &release);
+            settle();
+        }
+        return ok();
+    }
     Control* c = form->find(arg.toString());
     if (!c)
         return fail(QStringLiteral("no control named ") + arg.toString() + QStringLiteral(" on ") +

@@ -118,7 +118,8 @@ Form99a::Form99a(Program& program)
     EtichettaNumero->setBackColor(kCiano);
     EtichettaNumero->setAlignment(Qt::AlignCenter);
 
-    // Under each wire its button; only a mouse button acts on them, so they take no focus.
+    // Under each wire its button; a click doesn't take the focus from where it is, the keyboard
+    // reaches them like any other.
     auto sotto = [this](const char* name, const char* caption, int x) {
         CommandButton* b =
             button(QLatin1String(name), QLatin1String(caption), x - 450, 6300, 900, 660, Arial(24));
@@ -129,6 +130,7 @@ Form99a::Form99a(Program& program)
     Bot_u = sotto("Bot_u", "u", kForm99a.xUnita);
     Bot_da->MouseDown = [this](int button, int, int, int) { Infila(pal_da, NumeroDecine, button); };
     Bot_u->MouseDown = [this](int button, int, int, int) { Infila(pal_u, NumeroUnita, button); };
+    SiComincia({Bot_da, Bot_u});
 
     Label3 = label(QStringLiteral("Label3"),
                    QStringLiteral("Click sinistro per inserire le palline, click destro per toglierle."), 240,
@@ -156,11 +158,11 @@ Form99a::Form99a(Program& program)
     MenuCifre = menu(QStringLiteral("MenuCifre"), QStringLiteral("in cifre"), MenuNumero);
     MenuParole->Click = [this] {
         InCifre = 0;
-        NuovaDomanda();
+        ProssimaDomanda();
     };
     MenuCifre->Click = [this] {
         InCifre = 1;
-        NuovaDomanda();
+        ProssimaDomanda();
     };
 }
 

@@ -49,6 +49,7 @@ AbacusDifferenceForm::AbacusDifferenceForm(Program& program, const AbacusOpMembe
     Command2->Click = [this] {
         if (TogliUnita()) Controlla();
     };
+    SiComincia({Bot_da, Command1, Bot_u, Command2});
     Label4 = label(QStringLiteral("Label4"), QString(), 2400, 1365, 735, 495, Arial(18));
     Label3 = label(QStringLiteral("Label3"), QString(), 5760, 1365, 735, 495, Arial(18));
 

@@ -33,13 +33,15 @@ AbacusSumForm::AbacusSumForm(Program& program, const AbacusOpMember& member)
 
     Bot_da = button(QStringLiteral("Bot_da"), QStringLiteral("+ da"), 1470, 5760, 975, 615, Arial(18));
     Bot_u = button(QStringLiteral("Bot_u"), QStringLiteral("+ u"), 4800, 5760, 975, 615, Arial(18));
-    // Only the mouse threads beads: left adds one, any other button takes the last one off.
+    // The left button threads a bead, any other takes the last one off (Enter and Delete from the
+    // keyboard).
     Bot_da->MouseDown = [this](int b, int, int, int) {
         if (b == 1 ? AggiungiDecina() : TogliDecina()) Controlla();
     };
     Bot_u->MouseDown = [this](int b, int, int, int) {
         if (b == 1 ? AggiungiUnita() : TogliUnita()) Controlla();
     };
+    SiComincia({Bot_da, Bot_u});
     Label4 = label(QStringLiteral("Label4"), QString(), 2520, 5820, 735, 495, Arial(18));
     Label3 = label(QStringLiteral("Label3"), QString(), 5850, 5820, 735, 495, Arial(18));
     Label6 = label(QStringLiteral("Label6"),

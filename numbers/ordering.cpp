@@ -141,7 +141,7 @@ void FormOrd::Option3D1_Click(int i) {
     QuantiNumeri = int16_t(Val(Option3D1(i)->Caption()));
     ScriviRiga(Str(QuantiNumeri));
     EtNumeri->setVisible(false);
-    NuovaDomanda();
+    ProssimaDomanda();
 }
 
 // The title bar tells the child the order asked; the numbers already placed stay.

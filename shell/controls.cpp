@@ -9,6 +9,7 @@
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <algorithm>
 #include <limits>
 
@@ -127,6 +128,22 @@ bool Control::takeDrop(const Control& source) {
     return true;
 }
 
+namespace {
+QPointer<Label> gCarried;
+} // namespace
+
+Label* Carried() {
+    Label* l = gCarried.data();
+    return l && l->DragMode() == 1 && l->isVisible() && l->isEnabled() ? l : nullptr;
+}
+
+void PickUp(Label* label) {
+    Label* before = gCarried.data();
+    gCarried = label;
+    if (before) before->update();
+    if (label) label->update();
+}
+
 bool Actionable(Control& c) {
     QWidget* w = c.widget();
     if (!w || !w->isVisible() || !w->isEnabled()) return false;
@@ -136,7 +153,8 @@ bool Actionable(Control& c) {
     if (auto* s = dynamic_cast<Shape*>(&c)) return s->Click || s->MouseDown || s->MouseUp;
     if (auto* t = dynamic_cast<TextBox*>(&c)) return !t->isReadOnly();
     if (auto* m = dynamic_cast<MultiLineTextBox*>(&c)) return !m->isReadOnly();
-    return dynamic_cast<CommandButton*>(&c) || dynamic_cast<OptionButton*>(&c);
+    if (auto* b = dynamic_cast<CommandButton*>(&c)) return b->Click || b->MouseDown || b->MouseUp;
+    return dynamic_cast<OptionButton*>(&c) != nullptr;
 }
 
 // ---- Label ----
@@ -177,6 +195,8 @@ void Label::mousePressEvent(QMouseEvent* e) {
     pressed_ = e->button() == Qt::LeftButton;
     pressPos_ = e->position().toPoint();
     QLabel::mousePressEvent(e);
+    // A label a child acts on keeps its click: nothing behind it takes it too.
+    if (Actionable(*this)) e->accept();
 }
 
 void Label::mouseMoveEvent(QMouseEvent* e) {
@@ -197,6 +217,16 @@ void Label::mouseReleaseEvent(QMouseEvent* e) {
     const bool click = pressed_ && rect().contains(e->position().toPoint());
     pressed_ = false;
     QLabel::mouseReleaseEvent(e);
+    // Two clicks place a label without dragging: the first picks it up, the second, on a place
+    // that takes it, puts it there; the label carried, clicked again, is put back.
+    if (click) {
+        if (Label* carried = Carried(); carried && carried != this && DragDrop) {
+            PickUp(nullptr);
+            takeDrop(*carried);
+            return;
+        }
+        if (dragMode_ == 1) PickUp(Carried() == this ? nullptr : this);
+    }
     deliver(MouseUp, e);
     if (click && Click) Click();
 }

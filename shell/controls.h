@@ -375,6 +375,15 @@ private:
     bool sorted_;
 };
 
+// A label picked up to be placed without dragging: a click (or Enter, or a tap) on a label that can
+// be dragged picks it up, a click on a place that takes it puts it there through its DragDrop, a
+// click anywhere else or Escape puts it back. One at a time; nullptr when none is carried, or when
+// the one picked up can no longer be dragged.
+class Label;
+Label* Carried();
+// Picks the label up, or puts back the one carried with nullptr.
+void PickUp(Label* label);
+
 // Whether a child can act on the control as it stands now: shown, enabled, and a button, an option,
 // a text box that takes typing, or a label or shape that takes a click or a mouse button, can be
 // dragged or takes drops. The keyboard's focus and a finger go to these.

@@ -1,5 +1,6 @@
 #include "shell/exercise.h"
 #include "core/lang.h"
+#include "shell/focus.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 
@@ -83,19 +84,46 @@ void ExerciseForm::Activate() {
         break;
     case SetUp::QuestionOnActivate:
         MostraAvanti();
-        NuovaDomanda();
+        ProssimaDomanda();
         break;
     case SetUp::OnActivate:
         Imposta();
         break;
     }
+    if (fuocoInSospeso_) FuocoInizio();
 }
 
 void ExerciseForm::Imposta() {
     MostraAvanti();
     AzzeraConteggio();
     Prepara();
+    ProssimaDomanda();
+}
+
+void ExerciseForm::ProssimaDomanda() {
     NuovaDomanda();
+    FuocoInizio();
+}
+
+void ExerciseForm::FuocoInizio() {
+    // A screen set up as it loads isn't shown yet: the focus finds its place when it comes up.
+    if (!isVisible()) {
+        fuocoInSospeso_ = true;
+        return;
+    }
+    fuocoInSospeso_ = false;
+    if (QWidget* w = focusWidget();
+        w && w->isVisible() && w->isEnabled() && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit")))
+        return;
+    if (!inizio_.empty() && FocusFirst(*this, inizio_)) return;
+    // The screen's own controls: not the counters, the faces, "avanti" or the limit panel.
+    std::vector<Control*> propri;
+    for (Control* c : controls()) {
+        QWidget* w = c->widget();
+        if (w && w != BottoneAvanti && !(CorniceNumeroMassimo && CorniceNumeroMassimo->isAncestorOf(w)))
+            propri.push_back(c);
+    }
+    FocusFirst(*this, propri);
 }
 
 // "avanti" shows only where the main menu asked for the wait.
@@ -157,8 +185,10 @@ void ExerciseForm::Rispondi(bool giusta) {
         for (QWidget* w : risposta_)
             w->setEnabled(false);
         InAttesa();
+        // The keyboard goes on from where the child is asked to: "avanti".
+        BottoneAvanti->setFocus(Qt::OtherFocusReason);
     } else {
-        NuovaDomanda();
+        ProssimaDomanda();
     }
 }
 
@@ -167,7 +197,7 @@ void ExerciseForm::BottoneAvanti_Click() {
         w->setEnabled(true);
     Riprendi();
     BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    ProssimaDomanda();
 }
 
 TextBox* ExerciseForm::CasellaRisposta(const QString& name, const Rect& r, const QFont& font,
@@ -243,6 +273,7 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
                                               g.NumeroMassimo = int16_t(19 + 10 * i);
                                               NuovaDomanda();
                                               CorniceNumeroMassimo->setVisible(false);
+                                              FuocoInizio();
                                           });
     MenuItem* item = menu(menuName, menuCaption, nullptr, before);
     item->Click = [this] {

@@ -140,6 +140,11 @@ protected:
     virtual void Riprendi() {}
     // A control the child answers with: off while the screen waits for "avanti", on again with it.
     void RispondeCon(QWidget* control) { risposta_.push_back(control); }
+    // Where a child using the keyboard starts on a new question when there is no answer box: the
+    // first of these the focus can reach. By default, the first of the screen's own controls.
+    void SiComincia(std::vector<Control*> controlli) { inizio_ = std::move(controlli); }
+    // A new question, and the focus where the child acts first: the answer box, or the material.
+    void ProssimaDomanda();
     // The box the child writes the answer in, placed and named, its text judged by giusta on Enter
     // as the options say. After a wrong answer it has the focus back.
     TextBox* CasellaRisposta(const QString& name, const Rect& r, const QFont& font,
@@ -175,11 +180,14 @@ private:
     // The counters to 0, the screen's own preparation and a first question.
     void Imposta();
     void MostraAvanti();
+    void FuocoInizio();
 
     Variante variante_;
     int16_t numeroScheda_;
     FrameOptions options_;
     std::vector<QWidget*> risposta_;
+    std::vector<Control*> inizio_;
+    bool fuocoInSospeso_ = false;
 };
 
 // The screens that ask a question in EtichettaNumero and take the answer typed in Text1 on Enter:

@@ -1,6 +1,7 @@
 // Screens: their window, their menu bar, and the place and names of their controls.
 
 #include "shell/form.h"
+#include "shell/focus.h"
 #include "shell/fonts/fonts.h"
 #include "shell/printout.h"
 #include "shell/program.h"
@@ -11,7 +12,6 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPointer>
-#include <QShortcut>
 #include <cmath>
 
 namespace contarello {
@@ -58,9 +58,8 @@ Form::Form(Program& program, int widthTwips, int heightTwips)
     page_->setGeometry(0, 0, width(), height());
     client_ = new QWidget(page_);
     client_->setGeometry(0, 0, width(), height());
-    auto* pieno = new QShortcut(QKeySequence(Qt::Key_F11), this);
-    pieno->setContext(Qt::WindowShortcut);
-    connect(pieno, &QShortcut::activated, this, &Form::toggleFullScreen);
+    // Tab, the arrows, Enter, F10 and F11, and the ring that shows the focus.
+    KeyboardFor(*this);
 }
 
 void Form::toggleFullScreen() {

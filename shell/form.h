@@ -48,6 +48,9 @@ public:
     // The same page saved as a PDF file where the adult chooses.
     void SalvaPdf();
 
+    // Full screen, the page in its middle, and back to where the window stood (F11).
+    void toggleFullScreen();
+
     Control* find(const QString& name) const;
     const std::vector<Control*>& controls() const { return controls_; }
 
@@ -102,7 +105,6 @@ protected:
     void paintEvent(QPaintEvent* e) override;
 
 private:
-    void toggleFullScreen();
     QWidget* page_;
     QWidget* client_;
     QMenuBar* menuBar_ = nullptr;

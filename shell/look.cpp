@@ -108,6 +108,16 @@ void Control::fitInk() {
 void Label::paintEvent(QPaintEvent* e) {
     fitInk();
     QLabel::paintEvent(e);
+    if (Carried() != this) return;
+    // Picked up: it stands out of the screen, a thick dashed edge in the caption's colour round it.
+    QPainter p(this);
+    const QColor ink = palette().color(QPalette::WindowText);
+    const int w = std::max(2, int(std::lround(px(3))));
+    QPen pen(ink, w, Qt::DashLine);
+    p.setPen(pen);
+    p.drawRect(QRectF(rect()).adjusted(w / 2.0, w / 2.0, -w / 2.0, -w / 2.0));
+    p.setPen(QPen(InchiostroSu(ink), std::max(1, w / 2), Qt::DashLine));
+    p.drawRect(QRectF(rect()).adjusted(w * 1.5, w * 1.5, -w * 1.5, -w * 1.5));
 }
 
 // ---- CommandButton ----

@@ -54,6 +54,7 @@ QString dopo(Harness& h, const QString& presses) {
         if (p.back() == 'K')
             cmds << R"({"key": "@B", "code": 32})"
                  << R"({"key": "@B", "code": 13})";
+        if (p.back() == 'D') cmds << R"({"key": "@B", "code": 46})";
         for (QString& c : cmds)
             h.run(c.replace("@B", bot).replace("@N", QString::number(button)));
     }
@@ -132,7 +133,7 @@ private slots:
         QTest::newRow("a full wire takes no more") << "dL dL dL dL dL dL dL dL dL dL dL" << 90;
         QTest::newRow("nine off a full wire")
             << "uL uL uL uL uL uL uL uL uL uL uR uR uR uR uR uR uR uR uR uR" << 0;
-        QTest::newRow("the keyboard threads nothing") << "dK uK" << 0;
+        QTest::newRow("Space and Enter thread, Delete takes off") << "dK uK uD" << 21;
     }
     void theBeads() {
         QFETCH(QString, presses);

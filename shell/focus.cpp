@@ -1,0 +1,334 @@
+#include "shell/focus.h"
+#include "shell/form.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPointer>
+#include <algorithm>
+#include <cmath>
+
+namespace contarello {
+
+namespace {
+
+// The screens whose focus moved by a key, so that their ring shows.
+const char* const kRingProperty = "contarelloRing";
+const char* const kRingName = "contarelloFocusRing";
+
+QRect rectIn(const Form& form, QWidget* w) {
+    return QRect(w->mapTo(&form, QPoint(0, 0)), w->size());
+}
+
+// A panel that lies over the whole area under the menu bar: what is behind it can't be reached.
+QWidget* coveringPanel(Form& form) {
+    QWidget* top = nullptr;
+    for (Control* c : form.controls()) {
+        auto* f = dynamic_cast<Frame*>(c);
+        if (!f || !f->isVisible() || f->parentWidget() != form.client() ||
+            f->geometry() != form.client()->rect())
+            continue;
+        // Of two, the one raised later is in front.
+        const QObjectList& siblings = form.client()->children();
+        if (!top || siblings.indexOf(f) > siblings.indexOf(top)) top = f;
+    }
+    return top;
+}
+
+void sortReadingOrder(const Form& form, std::vector<Control*>& order) {
+    std::stable_sort(order.begin(), order.end(), [&](Control* a, Control* b) {
+        return rectIn(form, a->widget()).center().y() < rectIn(form, b->widget()).center().y();
+    });
+    // A row: the controls whose middles lie within the height of the row's first; along it, left
+    // to right.
+    for (auto row = order.begin(); row != order.end();) {
+        const QRect first = rectIn(form, (*row)->widget());
+        auto end = std::find_if(row, order.end(), [&](Control* c) {
+            return rectIn(form, c->widget()).center().y() > first.bottom();
+        });
+        std::stable_sort(row, end, [&](Control* a, Control* b) {
+            return rectIn(form, a->widget()).center().x() < rectIn(form, b->widget()).center().x();
+        });
+        row = end;
+    }
+}
+
+Control* controlOf(Form& form, QWidget* w) {
+    for (Control* c : form.controls())
+        if (c->widget() == w) return c;
+    return nullptr;
+}
+
+bool typesText(QWidget* w) {
+    return w && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit"));
+}
+
+// A mouse button pressed and released in the middle of the control, through its own mouse handling.
+void pressButton(QWidget* w, Qt::MouseButton b) {
+    const QPointF at = QRectF(w->rect()).center();
+    QPointer<QWidget> still(w);
+    QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), b, b, Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &press);
+    if (!still || !still->isVisible()) return;
+    QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), b, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &release);
+}
+
+// The ring drawn over the whole screen, around whatever control has the focus.
+class FocusRing : public QWidget {
+public:
+    explicit FocusRing(Form& form) : QWidget(&form), form_(form) {
+        setObjectName(QLatin1String(kRingName));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_NoSystemBackground);
+        setFocusPolicy(Qt::NoFocus);
+        setGeometry(form.rect());
+        hide();
+    }
+    void follow() {
+        const QRect r = RingRect(form_);
+        if (r.isEmpty()) {
+            hide();
+            return;
+        }
+        setGeometry(form_.rect());
+        raise();
+        show();
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        const QRect r = RingRect(form_);
+        if (r.isEmpty()) return;
+        QWidget* w = form_.focusWidget();
+        // The ground around the control: the nearest fill behind it.
+        QColor ground = form_.groundColour();
+        for (QWidget* p = w ? w->parentWidget() : nullptr; p && p != &form_; p = p->parentWidget())
+            if (p->autoFillBackground()) {
+                ground = p->palette().color(p->backgroundRole());
+                break;
+            }
+        // A band in the colour that stands out most on that ground, edged inside and out with the
+        // other, so that it reads on the ground and on the control alike.
+        const QColor ink = InchiostroSu(ground);
+        const QColor edge = ink == QColor(Qt::black) ? QColor(Qt::white) : QColor(Qt::black);
+        const int width = RingWidth();
+        const int line = std::max(1, width / 5);
+        QPainter p(this);
+        band(p, r, line, edge);
+        band(p, r.adjusted(line, line, -line, -line), width - 2 * line, ink);
+        band(p, r.adjusted(width - line, width - line, line - width, line - width), line, edge);
+    }
+
+private:
+    // A frame of the given thickness just inside outer.
+    static void band(QPainter& p, const QRect& outer, int thickness, const QColor& colour) {
+        const int t = std::max(1, thickness);
+        p.fillRect(QRect(outer.left(), outer.top(), outer.width(), t), colour);
+        p.fillRect(QRect(outer.left(), outer.bottom() - t + 1, outer.width(), t), colour);
+        p.fillRect(QRect(outer.left(), outer.top() + t, t, outer.height() - 2 * t), colour);
+        p.fillRect(QRect(outer.right() - t + 1, outer.top() + t, t, outer.height() - 2 * t), colour);
+    }
+
+private:
+    Form& form_;
+};
+
+FocusRing* ringOf(const Form& form) {
+    return static_cast<FocusRing*>(
+        form.findChild<QWidget*>(QLatin1String(kRingName), Qt::FindDirectChildrenOnly));
+}
+
+void setRingShown(Form& form, bool on) {
+    if (form.property(kRingProperty).toBool() == on) return;
+    form.setProperty(kRingProperty, on);
+    if (FocusRing* r = ringOf(form)) r->follow();
+}
+
+void moveFocus(Form& form, Control* to) {
+    if (!to) return;
+    to->widget()->setFocus(Qt::TabFocusReason);
+    setRingShown(form, true);
+    if (FocusRing* r = ringOf(form)) r->follow();
+}
+
+// The control nearest the focused one in the direction of the arrow: straight ahead first.
+Control* nearest(Form& form, QWidget* from, int key) {
+    const QPoint o = rectIn(form, from).center();
+    Control* best = nullptr;
+    double bestScore = 0;
+    for (Control* c : FocusOrder(form)) {
+        if (c->widget() == from) continue;
+        const QPoint d = rectIn(form, c->widget()).center() - o;
+        double ahead = 0, aside = 0;
+        switch (key) {
+        case Qt::Key_Right:
+            ahead = d.x(), aside = std::abs(d.y());
+            break;
+        case Qt::Key_Left:
+            ahead = -d.x(), aside = std::abs(d.y());
+            break;
+        case Qt::Key_Down:
+            ahead = d.y(), aside = std::abs(d.x());
+            break;
+        default:
+            ahead = -d.y(), aside = std::abs(d.x());
+            break;
+        }
+        if (ahead <= 0) continue;
+        const double score = ahead + 2 * aside;
+        if (!best || score < bestScore) best = c, bestScore = score;
+    }
+    return best;
+}
+
+// F10: the first item of the menu bar lit, the arrows walk the bar and its menus, Enter chooses.
+void openMenuBar(Form& form) {
+    auto* bar = form.findChild<QMenuBar*>();
+    if (!bar || !bar->isVisible()) return;
+    for (QAction* a : bar->actions())
+        if (a->isVisible() && a->isEnabled()) {
+            bar->setFocus(Qt::MenuBarFocusReason);
+            bar->setActiveAction(a);
+            return;
+        }
+}
+
+class Keys : public QObject {
+public:
+    using QObject::QObject;
+    static void install() {
+        static auto* keys = new Keys(qApp);
+        static const bool once = (qApp->installEventFilter(keys), true);
+        Q_UNUSED(once);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* e) override {
+        const QEvent::Type t = e->type();
+        if (t != QEvent::KeyPress && t != QEvent::MouseButtonPress && t != QEvent::FocusIn) return false;
+        auto* w = qobject_cast<QWidget*>(watched);
+        auto* form = w ? qobject_cast<Form*>(w->window()) : nullptr;
+        if (!form) return false;
+        if (t == QEvent::FocusIn) {
+            if (FocusRing* r = ringOf(*form)) r->follow();
+            return false;
+        }
+        if (t == QEvent::MouseButtonPress) {
+            // A child back at the mouse sees the screen as the mouse shows it.
+            if (e->spontaneous()) setRingShown(*form, false);
+            // A click anywhere but on a place for it puts back the label picked up.
+            Control* c = controlOf(*form, w);
+            if (Carried() && w != Carried() && !(c && c->DragDrop)) PickUp(nullptr);
+            return false;
+        }
+        // Keys are taken once, by the control that has the focus (or the screen, when none has).
+        QWidget* focus = form->focusWidget();
+        if (w != (focus ? focus : form)) return false;
+        Control* c = controlOf(*form, w);
+        if (!c && w != form && w != form->client()) return false; // the menu bar walks itself
+        return key(*form, w, c, static_cast<QKeyEvent*>(e));
+    }
+
+private:
+    bool key(Form& form, QWidget* w, Control* c, QKeyEvent* e) {
+        if (e->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
+        const int k = e->key();
+        const bool text = typesText(w);
+        switch (k) {
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab: {
+            const std::vector<Control*> order = FocusOrder(form);
+            if (order.empty()) return true;
+            const bool back = k == Qt::Key_Backtab || (e->modifiers() & Qt::ShiftModifier);
+            auto at = std::find(order.begin(), order.end(), c);
+            Control* next;
+            if (at == order.end())
+                next = back ? order.back() : order.front();
+            else if (back)
+                next = at == order.begin() ? order.back() : *(at - 1);
+            else
+                next = at + 1 == order.end() ? order.front() : *(at + 1);
+            moveFocus(form, next);
+            return true;
+        }
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            // In a box the arrows move the caret along the text.
+            if (text && (k == Qt::Key_Left || k == Qt::Key_Right || w->inherits("QPlainTextEdit")))
+                return false;
+            // Only the focus moves: an option reached isn't chosen.
+            moveFocus(form, nearest(form, c ? w : form.client(), k));
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            if (text || !c) return false;
+            if (!e->isAutoRepeat()) pressButton(w, Qt::LeftButton);
+            return true;
+        case Qt::Key_Delete:
+        case Qt::Key_Menu:
+            if (text || !c) return false;
+            if (!e->isAutoRepeat()) pressButton(w, Qt::RightButton);
+            return true;
+        case Qt::Key_Escape:
+            if (!Carried()) return false;
+            PickUp(nullptr);
+            return true;
+        case Qt::Key_F10:
+            openMenuBar(form);
+            return true;
+        case Qt::Key_F11:
+            if (!e->isAutoRepeat()) form.toggleFullScreen();
+            return true;
+        default:
+            return false;
+        }
+    }
+};
+
+} // namespace
+
+void KeyboardFor(Form& form) {
+    Keys::install();
+    new FocusRing(form);
+}
+
+std::vector<Control*> FocusOrder(Form& form) {
+    QWidget* panel = coveringPanel(form);
+    std::vector<Control*> order;
+    for (Control* c : form.controls())
+        if (Actionable(*c) && (!panel || panel->isAncestorOf(c->widget()))) order.push_back(c);
+    sortReadingOrder(form, order);
+    return order;
+}
+
+bool FocusFirst(Form& form, const std::vector<Control*>& among) {
+    for (Control* c : FocusOrder(form))
+        if (std::find(among.begin(), among.end(), c) != among.end()) {
+            c->widget()->setFocus(Qt::OtherFocusReason);
+            if (FocusRing* r = ringOf(form)) r->follow();
+            return true;
+        }
+    return false;
+}
+
+bool RingShown(const Form& form) {
+    return form.property(kRingProperty).toBool();
+}
+
+int RingWidth() {
+    return std::max(4, int(std::lround(px(5))));
+}
+
+QRect RingRect(const Form& form) {
+    QWidget* w = form.focusWidget();
+    if (!RingShown(form) || !w || !w->isVisible() || !controlOf(const_cast<Form&>(form), w)) return {};
+    const int width = RingWidth();
+    return rectIn(form, w).adjusted(-width, -width, width, width);
+}
+
+} // namespace contarello
