@@ -1,4 +1,5 @@
 #include "shell/focus.h"
+#include "shell/accessible.h"
 #include "shell/form.h"
 
 #include <QApplication>
@@ -294,6 +295,7 @@ private:
 
 void KeyboardFor(Form& form) {
     Keys::install();
+    DescribeControlsToScreenReaders();
     new FocusRing(form);
 }
 
