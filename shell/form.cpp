@@ -5,6 +5,7 @@
 #include "shell/printout.h"
 #include "shell/program.h"
 #include "shell/scaledstyle.h"
+#include "shell/touch.h"
 
 #include <QAction>
 #include <QMenu>
@@ -61,6 +62,7 @@ Form::Form(Program& program, int widthTwips, int heightTwips)
     auto* pieno = new QShortcut(QKeySequence(Qt::Key_F11), this);
     pieno->setContext(Qt::WindowShortcut);
     connect(pieno, &QShortcut::activated, this, &Form::toggleFullScreen);
+    TakeTouches(*this);
 }
 
 void Form::toggleFullScreen() {

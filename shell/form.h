@@ -102,6 +102,7 @@ protected:
     void paintEvent(QPaintEvent* e) override;
 
 private:
+    friend class Keypad; // the keypad of lavagna mode stands on the page, under the screen
     void toggleFullScreen();
     QWidget* page_;
     QWidget* client_;
