@@ -5,6 +5,7 @@
 #include "shell/firstpaint.h"
 #include "shell/fonts/fonts.h"
 #include "shell/form.h"
+#include "shell/keypad.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
 
@@ -29,7 +30,9 @@ double ScalaScelta(const QStringList& args) {
     const double f = qEnvironmentVariable("CONTARELLO_SCALE").toDouble(&ok);
     if (ok && f > 0) return f;
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? ChooseScaleFactor(screen->availableGeometry().size()) : 1.0;
+    // At the classroom's panel the keypad takes room under the screens.
+    const int room = args.contains(QStringLiteral("--lavagna")) ? kKeypadRoomTwips : 0;
+    return screen ? ChooseScaleFactor(screen->availableGeometry().size(), room) : 1.0;
 }
 
 } // namespace
@@ -51,6 +54,7 @@ int main(int argc, char** argv) {
     Program app(rnd, sound, dialogs, printer, clock, speech, files.data, FormTable());
     app.nav.setFollowWindowSystem(true);
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
+    app.lavagna = QCoreApplication::arguments().contains(QStringLiteral("--lavagna"));
     Main(app);
     if (app.nav.ended()) return 0;
     const QString exitAfter = qEnvironmentVariable("CONTARELLO_EXIT_AFTER_FIRST_PAINT");

@@ -1,6 +1,7 @@
 #include "driver/engine.h"
 #include "app/screens.h"
 #include "driver/describe.h"
+#include "driver/touchscreen.h"
 #include "shell/form.h"
 
 #include <QApplication>
@@ -158,9 +159,12 @@ Qt::MouseButton qtButton(int vb) {
 }
 
 const char* const kSetupCommands[] = {"seed", "rnd", "msgbox", "inputbox", "savefile"};
+// clang-format off
 const char* const kCommands[] = {"seed",     "rnd",   "msgbox", "inputbox",   "savefile", "show",
                                  "activate", "click", "menu",   "mousedown",  "type",     "key",
-                                 "settext",  "drag",  "dump",   "screenshot", "close",    "press"};
+                                 "settext",  "drag",  "dump",   "screenshot", "close",
+                                 "press",    "tap",   "hold",   "swipe"};
+// clang-format on
 
 } // namespace
 
@@ -312,6 +316,26 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
         return fail(arg.toString() + QStringLiteral(" is not a menu item"));
     if (const char* why = unreachable(c, form)) return ignored(why);
 
+    if (verb == u"tap" || verb == u"hold" || verb == u"swipe") {
+        // One finger through the touch screen: it lands, rests or slides, and lifts.
+        QPoint from, to;
+        QWindow *window = nullptr, *targetWindow = nullptr;
+        if (!TouchPoint(*c, from, window)) return ignored("hidden");
+        to = from;
+        if (verb == u"swipe") {
+            Control* target = form->find(cmd.value(QStringLiteral("to")).toString());
+            if (!target)
+                return fail(QStringLiteral("no control named ") + cmd.value(QStringLiteral("to")).toString());
+            if (!TouchPoint(*target, to, targetWindow)) return ignored("hidden");
+        }
+        TouchScreen screen;
+        screen.land(window, {1, from});
+        if (verb == u"hold") clock_.advance(std::max(0, cmd.value(QStringLiteral("ms")).toInt(1000)));
+        for (int step = 1; verb == u"swipe" && step <= 4; ++step)
+            screen.move(window, {1, from + (to - from) * step / 4});
+        screen.lift(window, {1, to});
+        return ok();
+    }
     if (verb == u"click" || verb == u"menu") {
         c->userClick();
         return ok();

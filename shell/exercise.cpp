@@ -1,6 +1,7 @@
 #include "shell/exercise.h"
 #include "core/lang.h"
 #include "shell/focus.h"
+#include "shell/keypad.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 
@@ -204,6 +205,7 @@ TextBox* ExerciseForm::CasellaRisposta(const QString& name, const Rect& r, const
                                        std::function<bool(const QString&)> giusta, OpzioniCasella casella) {
     TextBox* box = textBox(name, r.left, r.top, r.width, r.height, font);
     box->setAlignment(Qt::AlignCenter);
+    MarkAnswerBox(*box, casella.filtro == &FiltroMaiuscole);
     RispondeCon(box);
     auto invio = [this, box, giusta = std::move(giusta), passo = casella.passo] {
         const bool esatta = giusta(box->Text());

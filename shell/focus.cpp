@@ -302,8 +302,11 @@ void KeyboardFor(Form& form) {
 std::vector<Control*> FocusOrder(Form& form) {
     QWidget* panel = coveringPanel(form);
     std::vector<Control*> order;
+    // The screen's own controls: the keypad under it is for fingers, the keyboard has its keys.
     for (Control* c : form.controls())
-        if (Actionable(*c) && (!panel || panel->isAncestorOf(c->widget()))) order.push_back(c);
+        if (Actionable(*c) && form.client()->isAncestorOf(c->widget()) &&
+            (!panel || panel->isAncestorOf(c->widget())))
+            order.push_back(c);
     sortReadingOrder(form, order);
     return order;
 }

@@ -6,6 +6,7 @@
 #include "shell/printout.h"
 #include "shell/program.h"
 #include "shell/scaledstyle.h"
+#include "shell/touch.h"
 
 #include <QAction>
 #include <QMenu>
@@ -60,6 +61,7 @@ Form::Form(Program& program, int widthTwips, int heightTwips)
     client_->setGeometry(0, 0, width(), height());
     // Tab, the arrows, Enter, F10 and F11, and the ring that shows the focus.
     KeyboardFor(*this);
+    TakeTouches(*this);
 }
 
 void Form::toggleFullScreen() {

@@ -105,6 +105,7 @@ protected:
     void paintEvent(QPaintEvent* e) override;
 
 private:
+    friend class Keypad; // the keypad of lavagna mode stands on the page, under the screen
     QWidget* page_;
     QWidget* client_;
     QMenuBar* menuBar_ = nullptr;

@@ -23,8 +23,9 @@ struct Program {
     Printer& printer;
     Clock& clock;
     Speech& speech;
-    QString appPath; // the program's folder, where suoni/ lies
-    EventLog* log;   // nullptr in the real program
+    QString appPath;      // the program's folder, where suoni/ lies
+    EventLog* log;        // nullptr in the real program
+    bool lavagna = false; // the keypad under the screens: from the first touch, or from the start
     Navigator nav;
 };
 
