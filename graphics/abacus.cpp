@@ -156,11 +156,11 @@ Form99a::Form99a(Program& program)
     MenuCifre = menu(QStringLiteral("MenuCifre"), QStringLiteral("in cifre"), MenuNumero);
     MenuParole->Click = [this] {
         InCifre = 0;
-        NuovaDomanda();
+        ProssimaDomanda();
     };
     MenuCifre->Click = [this] {
         InCifre = 1;
-        NuovaDomanda();
+        ProssimaDomanda();
     };
 }
 

@@ -141,7 +141,7 @@ void Form999x::ScegliCifre(bool cifre) {
     InCifre = cifre;
     MenuParola->setChecked(!cifre);
     MenuCifre->setChecked(cifre);
-    NuovaDomanda();
+    ProssimaDomanda();
 }
 
 // Nine of a kind at most: a tenth press changes nothing, and ten squares never turn into a bar.

@@ -141,7 +141,7 @@ void FormOrd::Option3D1_Click(int i) {
     QuantiNumeri = int16_t(Val(Option3D1(i)->Caption()));
     ScriviRiga(Str(QuantiNumeri));
     EtNumeri->setVisible(false);
-    NuovaDomanda();
+    ProssimaDomanda();
 }
 
 // The title bar tells the child the order asked; the numbers already placed stay.
@@ -160,6 +160,13 @@ void FormOrd::ScriviRiga(const QString& quanti) {
 void FormOrd::Unload() {
     g.OrdinaRiga = QStringLiteral("8");
     g.OrdinaConsegna = kDalMinore;
+}
+
+QString FormOrd::TestoDomanda() const {
+    QStringList numeri;
+    for (int i = 0; i < QuantiNumeri; ++i)
+        if (!ComandoNumero(i)->Caption().isEmpty()) numeri << ComandoNumero(i)->Caption();
+    return Caption() + QStringLiteral("\n") + numeri.join(QStringLiteral(", "));
 }
 
 QJsonObject FormOrd::fields() const {

@@ -1,8 +1,10 @@
 #include "shell/exercise.h"
 #include "core/lang.h"
+#include "core/phrases.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 
+#include <QKeyEvent>
 #include <limits>
 
 namespace contarello {
@@ -62,6 +64,7 @@ ExerciseForm::ExerciseForm(Program& program, Variante variante, int16_t numeroSc
 }
 
 void ExerciseForm::Load() {
+    DomandaCliccabile();
     // Choosing the option runs its click: the limit, a question, the panel hidden.
     if (options_.limiteA99 && OpzioneNumeroMassimo(8)) OpzioneNumeroMassimo(8)->setValue(true);
     switch (options_.setUp) {
@@ -83,7 +86,7 @@ void ExerciseForm::Activate() {
         break;
     case SetUp::QuestionOnActivate:
         MostraAvanti();
-        NuovaDomanda();
+        ProssimaDomanda();
         break;
     case SetUp::OnActivate:
         Imposta();
@@ -95,7 +98,62 @@ void ExerciseForm::Imposta() {
     MostraAvanti();
     AzzeraConteggio();
     Prepara();
+    ProssimaDomanda();
+}
+
+void ExerciseForm::ProssimaDomanda() {
     NuovaDomanda();
+    Annuncia(true);
+}
+
+QString ExerciseForm::TestoDomanda() const {
+    QStringList parti;
+    for (const char* nome : {"EtichettaNumero", "EtNumero", "Label3"})
+        if (auto* l = dynamic_cast<Label*>(find(QLatin1String(nome))); l && !l->isHidden())
+            parti << l->Caption();
+    return parti.join(u'\n');
+}
+
+void ExerciseForm::Annuncia(bool nuova) {
+    if (!app.voce) return;
+    nuova_ = nuova_ || nuova;
+    if (std::exchange(annuncio_, true)) return;
+    // Said once the handler that changed the screen has finished: the whole question as it shows,
+    // once, however many steps made it.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            annuncio_ = false;
+            const QString frase = FraseDaDire(TestoDomanda());
+            if ((std::exchange(nuova_, false) || frase != detta_) && app.voce && !frase.isEmpty())
+                app.speech.say(frase);
+            detta_ = frase;
+        },
+        Qt::QueuedConnection);
+}
+
+void ExerciseForm::RipetiDomanda() {
+    detta_ = FraseDaDire(TestoDomanda());
+    if (app.voce && !detta_.isEmpty()) app.speech.say(detta_);
+}
+
+void ExerciseForm::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_F2 && e->modifiers() == Qt::NoModifier) {
+        RipetiDomanda();
+        e->accept();
+        return;
+    }
+    Form::keyPressEvent(e);
+}
+
+void ExerciseForm::DomandaCliccabile() {
+    // Only with the voice on: a label that answers a click is one more place for the keyboard to
+    // stop at, and without the voice it would do nothing.
+    if (!app.voce || std::exchange(cliccabile_, true)) return;
+    for (const char* nome : {"EtichettaNumero", "EtNumero", "Label3"})
+        if (auto* l = dynamic_cast<Label*>(find(QLatin1String(nome)));
+            l && !l->Click && !l->MouseDown && !l->DragDrop && l->DragMode() == 0)
+            l->Click = [this] { RipetiDomanda(); };
 }
 
 // "avanti" shows only where the main menu asked for the wait.
@@ -158,7 +216,7 @@ void ExerciseForm::Rispondi(bool giusta) {
             w->setEnabled(false);
         InAttesa();
     } else {
-        NuovaDomanda();
+        ProssimaDomanda();
     }
 }
 
@@ -167,7 +225,7 @@ void ExerciseForm::BottoneAvanti_Click() {
         w->setEnabled(true);
     Riprendi();
     BottoneAvanti->setEnabled(false);
-    NuovaDomanda();
+    ProssimaDomanda();
 }
 
 TextBox* ExerciseForm::CasellaRisposta(const QString& name, const Rect& r, const QFont& font,
@@ -241,7 +299,7 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
                                           QStringLiteral("OpzioneNumeroMassimo"), limiti, 3,
                                           OpzioneNumeroMassimo, [this](int i) {
                                               g.NumeroMassimo = int16_t(19 + 10 * i);
-                                              NuovaDomanda();
+                                              ProssimaDomanda();
                                               CorniceNumeroMassimo->setVisible(false);
                                           });
     MenuItem* item = menu(menuName, menuCaption, nullptr, before);
