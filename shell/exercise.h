@@ -199,9 +199,9 @@ private:
     int16_t numeroScheda_;
     FrameOptions options_;
     std::vector<QWidget*> risposta_;
-    QString detta_;          // what the voice last said of the question
-    bool annuncio_ = false;  // the question is to be said once the screen is shown
-    bool nuova_ = false;     // ...as a new one, even if it reads as the last
+    QString detta_;         // what the voice last said of the question
+    bool annuncio_ = false; // the question is to be said once the screen is shown
+    bool nuova_ = false;    // ...as a new one, even if it reads as the last
     bool cliccabile_ = false;
 };
 

@@ -26,7 +26,7 @@ struct Program {
     QString appPath; // the program's folder, where suoni/ lies
     // Whether the voice speaks: off unless an adult turns it on, for this run only.
     bool voce = false;
-    EventLog* log;   // nullptr in the real program
+    EventLog* log; // nullptr in the real program
     Navigator nav;
 };
 
