@@ -3,10 +3,13 @@
 // ticks that answer nothing say their number; F2 and a click on the question say it again.
 
 #include "shell/form.h"
+#include "shell/speech.h"
 #include "support/harness.h"
 
 #include <QApplication>
 #include <QtTest>
+#include <mutex>
+#include <thread>
 
 using namespace contarello;
 using contarello::test::Harness;
@@ -43,6 +46,27 @@ QWidget* Focused(Harness& h) {
     QWidget* form = h.engine.program().nav.active();
     return form->focusWidget() ? form->focusWidget() : form;
 }
+
+// A voice that only writes down what it is given, from whatever thread speaks through it.
+struct Heard {
+    std::mutex lock;
+    QStringList texts;
+    QStringList all() {
+        std::lock_guard l(lock);
+        return texts;
+    }
+};
+class WritingVoice : public Speech {
+public:
+    explicit WritingVoice(Heard& heard) : heard_(heard) {}
+    void say(const QString& text) override {
+        std::lock_guard l(heard_.lock);
+        heard_.texts << text;
+    }
+
+private:
+    Heard& heard_;
+};
 
 } // namespace
 
@@ -150,6 +174,42 @@ private slots:
             else
                 h.run(a);
         QCOMPARE(Said(h), said);
+    }
+
+    // The real voice's thread: whatever the engine does, turning the voice on and speaking return at
+    // once; a voice made late, or none, is silence for the run.
+    void background_data() {
+        QTest::addColumn<int>("makingMs");
+        QTest::addColumn<bool>("engine");
+        QTest::addColumn<bool>("heard");
+        QTest::newRow("made in time") << 50 << true << true;
+        QTest::newRow("no engine, or no Italian voice") << 50 << false << false;
+        QTest::newRow("an engine stuck past the limit") << 600 << true << false;
+    }
+    void background() {
+        QFETCH(int, makingMs);
+        QFETCH(bool, engine);
+        QFETCH(bool, heard);
+        Heard voice;
+        {
+            BackgroundSpeech speech(
+                [&]() -> Speech* {
+                    std::this_thread::sleep_for(std::chrono::milliseconds(makingMs));
+                    return engine ? new WritingVoice(voice) : nullptr;
+                },
+                300);
+            QElapsedTimer t;
+            t.start();
+            speech.say(QStringLiteral("prima")); // before the voice is turned on: nothing
+            speech.prepare();
+            speech.say(QStringLiteral("uno"));
+            QVERIFY(t.elapsed() < 40);
+            QTRY_VERIFY_WITH_TIMEOUT(speech.ready() || speech.silent(), 2000);
+            QCOMPARE(speech.ready(), heard);
+            speech.say(QStringLiteral("due"));
+            QTest::qWait(makingMs + 100); // the slow engine is done before the voice closes
+        }
+        QCOMPARE(voice.all(), heard ? QStringList({"uno", "due"}) : QStringList());
     }
 };
 
