@@ -8,6 +8,7 @@
 #include "shell/keypad.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
+#include "shell/speech.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -50,8 +51,15 @@ int main(int argc, char** argv) {
     QtDialogs dialogs;
     QtPrinter printer(files.modules);
     QtClock clock;
-    SilentSpeech speech;
+    // The voice module is looked for only when the voice is turned on, and on the voice's own thread.
+    BackgroundSpeech speech([modules = files.modules]() -> Speech* {
+        using Make = Speech* (*)();
+        const auto make = reinterpret_cast<Make>(ResolveModule(modules, kSpeechModule));
+        return make ? make() : nullptr;
+    });
     Program app(rnd, sound, dialogs, printer, clock, speech, files.data, FormTable());
+    // "--voce": the voice on from the start, as if chosen on the main menu.
+    app.voce = QCoreApplication::arguments().contains(QStringLiteral("--voce"));
     app.nav.setFollowWindowSystem(true);
     app.nav.onEnd = [] { QCoreApplication::exit(0); };
     app.lavagna = QCoreApplication::arguments().contains(QStringLiteral("--lavagna"));
@@ -64,6 +72,7 @@ int main(int argc, char** argv) {
         // Qt's own texts and the sounds get ready while the child looks at the start screen. The
         // start check ends here, failing when any of them is missing.
         new AfterFirstPaint(app.nav.active(), [&] {
+            if (app.voce) speech.prepare();
             bool ready = InstallItalianTexts(application) && sound.loaded();
             for (const char* f : {"si1", "si2", "si3", "si4", "si", "no"}) {
                 const QString path =

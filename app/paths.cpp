@@ -57,6 +57,14 @@ int ReportProgramFiles(const ProgramFiles& files) {
         std::printf("%s %s\n", loads ? "ok     " : "MISSING",
                     qPrintable(loads ? module.fileName() : module.errorString()));
     }
+    // The voice's module is optional: without it, or without the speech libraries it needs, the
+    // voice is silent and the program is complete all the same.
+    {
+        QLibrary voce(files.modules + QLatin1Char('/') + QLatin1String(kSpeechModule.library));
+        const bool loads = voce.load() && voce.resolve(kSpeechModule.entry);
+        std::printf("%s %s\n", loads ? "ok     " : "silent ",
+                    qPrintable(loads ? voce.fileName() : voce.errorString() + QStringLiteral(" (no voice)")));
+    }
     // The face every screen and every sheet is drawn in, as the program's font configuration finds
     // it, and the face Qt really draws with: a machine without it would lay the screens out wrong.
     for (const bool bold : {false, true}) {

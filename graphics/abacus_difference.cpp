@@ -65,6 +65,7 @@ AbacusDifferenceForm::AbacusDifferenceForm(Program& program, const AbacusOpMembe
 void AbacusDifferenceForm::Consegna() {
     Label5->setCaption(QStringLiteral("inserisci il numero ") + Str(g.Meta) +
                        QStringLiteral(" premendo i bottoni +da  e +u"));
+    Annuncia();
 }
 
 void AbacusDifferenceForm::NuovaDomanda() {
@@ -91,8 +92,10 @@ void AbacusDifferenceForm::Controlla() {
                            (member_.cambio
                                 ? QStringLiteral(" con i bottoni  -da  e -u. Esegui il cambio se necessario")
                                 : QStringLiteral(" con i bottoni  -da  e -u. ")));
+        Annuncia();
     } else if (Fase == 2 && n == g.Termine1) {
         Label5->setCaption(QStringLiteral("scrivi il risultato"));
+        Annuncia();
         suona(app);
         ApriRisultato();
     }

@@ -121,6 +121,10 @@ void AbacusOpForm::CreaAbaco(const Geometria& geo) {
     }
 }
 
+QString AbacusOpForm::TestoDomanda() const {
+    return EtichettaNumero->Caption() + QStringLiteral("\n") + Label5->Caption();
+}
+
 QJsonObject AbacusOpForm::fields() const {
     return {{"NumeroUnita", NumeroUnita},
             {"NumeroDecine", NumeroDecine},

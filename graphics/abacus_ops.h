@@ -28,6 +28,8 @@ public:
                  FrameLayout layout);
 
     QJsonObject fields() const override;
+    // The operation, then the step of the moment.
+    QString TestoDomanda() const override;
 
 protected:
     // The wires and the beads, from the top of the wires down to the lowest bead's top.

@@ -61,6 +61,7 @@ AbacusSumForm::AbacusSumForm(Program& program, const AbacusOpMember& member)
 void AbacusSumForm::Consegna() {
     Label5->setCaption(QStringLiteral("inserisci il numero ") + Str(g.Termine1) +
                        QStringLiteral(" nell'abaco"));
+    Annuncia();
 }
 
 void AbacusSumForm::NuovaDomanda() {
@@ -88,16 +89,19 @@ void AbacusSumForm::Controlla() {
         suona(app);
         Label5->setCaption(QStringLiteral("aggiungi il numero ") + Str(g.Termine2) +
                            QStringLiteral(" nell'abaco"));
+        Annuncia();
     }
     if (Fase == 2 && n == g.Meta) {
         Fase = 3;
         suona(app);
         Label5->setCaption(QStringLiteral("Esegui il cambio"));
+        Annuncia();
     }
     if (Fase == 3 && NumeroUnita < 10) {
         Fase = 4;
         suona(app);
         Label5->setCaption(QStringLiteral("Scrivi il risultato"));
+        Annuncia();
     }
     if (Fase == 4 && n == g.Meta) ApriRisultato();
 }

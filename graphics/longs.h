@@ -34,7 +34,10 @@ protected:
 
     // The operation drawn, as the member says, into the shared variables.
     void EstraiOperazione();
-    void Consegna(const char* testo) { Label3->setCaption(QString::fromUtf8(testo)); }
+    void Consegna(const char* testo) {
+        Label3->setCaption(QString::fromUtf8(testo));
+        Annuncia();
+    }
     // The result box opened, empty, with the focus when it can take it.
     void InRisultato();
     // A long (red) or a square (blue), hidden until the child places it.

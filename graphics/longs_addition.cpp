@@ -102,6 +102,7 @@ void LongsAddForm::ControllaSeCambio() {
     Cambio->setEnabled(true);
     Label3->setCaption(QStringLiteral("Ci sono almeno 10 unità.") + CRLF +
                        QStringLiteral("Esegui il cambio."));
+    Annuncia();
 }
 
 // Ten squares go, all of the first row and as many of the second as make ten, and one long comes

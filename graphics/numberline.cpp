@@ -66,6 +66,8 @@ NumberLineForm::NumberLineForm(Program& program, const NumberLineMember& member)
                          Arial(decina ? member.puntiDecine : member.puntiAltre));
         l->setAutoSize(true);
         l->setVisible(false);
+        // With the voice on, a number on the line says itself when touched: it answers nothing.
+        if (app.voce) l->Click = [this, l] { DiNumero(l->Caption()); };
         Label3.set(i, l);
     }
     // Enter alone answers, an empty box too: its number is the tick's own, not a count from the left.
@@ -130,6 +132,13 @@ void NumberLineForm::ScriviNumero(int tacca) {
     const int centro = tw(kSinistra + kPasso * tacca);
     l->move(centro - blank - fm.horizontalAdvance(cifre) / 2, l->y());
     l->setVisible(true);
+}
+
+QString NumberLineForm::TestoDomanda() const {
+    QStringList numeri;
+    for (int i = 0; i < kTacche; ++i)
+        if (!Label3(i)->isHidden()) numeri << Label3(i)->Caption();
+    return numeri.join(QStringLiteral(", "));
 }
 
 bool NumberLineForm::ContinuaDomanda() {

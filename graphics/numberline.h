@@ -36,6 +36,8 @@ public:
     NumberLineForm(Program& app, const NumberLineMember& member);
 
     QJsonObject fields() const override;
+    // The numbers written on the line.
+    QString TestoDomanda() const override;
 
 protected:
     // A fresh line: its first number, its written ticks, and the first tick to name.

@@ -39,8 +39,8 @@ protected:
     void ScriviTutti();
     // Each cell enabled again, as a new round of the table starts.
     void AbilitaTutte();
-    // A click on cell i; by default nothing.
-    virtual void Numero_Click(int) {}
+    // A click on cell i; by default, where a click answers nothing, the cell says its number.
+    virtual void Numero_Click(int i) { DiNumero(Numero(i)->Caption()); }
     // The frame's options with the table's layout: the frame's controls in the right-hand column.
     static FrameOptions Opzioni(FrameOptions options);
 

@@ -157,6 +157,7 @@ void ColumnForm::NuovaDomanda() {
     Trascinabile(Lda2, 0);
     Trascinabile(Lu2, 0);
     Label3->setCaption(QString::fromUtf8(member_.primo));
+    Annuncia();
 }
 
 // The texts are compared, not the controls: a digit equal to the cell's own is just as good.
@@ -179,6 +180,7 @@ void ColumnForm::Controlla1() {
     if (Da2 > 0) Trascinabile(Lda2, 1);
     Trascinabile(Lu2, 1);
     Label3->setCaption(QString::fromUtf8(member_.secondo));
+    Annuncia();
 }
 
 void ColumnForm::Controlla2() {
@@ -187,6 +189,7 @@ void ColumnForm::Controlla2() {
 
 void ColumnForm::ApriUnita() {
     Label3->setCaption(TestoUnita());
+    Annuncia();
     Eur->setEnabled(true);
     Eur->SetFocus();
 }
@@ -195,11 +198,17 @@ void ColumnForm::ApriDecine() {
     Edar->setEnabled(true);
     Edar->SetFocus();
     Label3->setCaption(TestoDecine());
+    Annuncia();
 }
 
 void ColumnForm::Esatta() {
     Edar->setEnabled(false);
     Lris->setCaption(Str(10 * DaR + UR));
+}
+
+QString ColumnForm::TestoDomanda() const {
+    return Str(10 * Da1 + U1) + QStringLiteral(" ") + Label6->Caption() + Str(10 * Da2 + U2) +
+           QStringLiteral("\n") + Label3->Caption();
 }
 
 QJsonObject ColumnForm::fields() const {

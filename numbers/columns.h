@@ -47,6 +47,8 @@ public:
     ColumnForm(Program& app, const ColumnMember& member, Variante variante);
 
     QJsonObject fields() const override;
+    // The operation, then the step of the moment.
+    QString TestoDomanda() const override;
 
 protected:
     // Every return to the screen throws the operation under way away and makes a new one.

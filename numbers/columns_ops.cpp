@@ -137,6 +137,7 @@ void FormAddizione::UnitaEsatte() {
     UR = int16_t(UR - 10);
     Eur->setText(Str(UR));
     Label3->setCaption(QStringLiteral("Le unità sono almeno 10. Trascina il cambio sulle decine."));
+    Annuncia();
 }
 
 // Only the 1 itself is carried, and only once.
@@ -188,6 +189,7 @@ void FormSottrazione::ControllaSeCambio() {
     CambioUa->setCaption(QString());
     Label3->setCaption(QStringLiteral(
         "Le unità non ti bastano. Cambia una decina in unità trascinando il rettangolino viola."));
+    Annuncia();
 }
 
 void FormSottrazione::UnitaEsatte() {
@@ -204,6 +206,7 @@ void FormSottrazione::CambioUa_DragDrop(Control* source) {
     Eur->setText(QString());
     Eur->SetFocus();
     Label3->setCaption(TestoUnita());
+    Annuncia();
     U1 = int16_t(U1 + 10);
     CambioUa->setCaption(QStringLiteral("1"));
     CambioUp->setCaption(QStringLiteral("-1"));

@@ -54,6 +54,11 @@ void FormMM::NuovaDomanda() {
     EtNumero(1)->setCaption(Format(SecondoNumero, QStringLiteral("###,###,##0")));
 }
 
+QString FormMM::TestoDomanda() const {
+    const QString tra = Label3->isHidden() ? QStringLiteral(",") : QStringLiteral(" ") + Label3->Caption();
+    return EtNumero(0)->Caption() + tra + QStringLiteral(" ") + EtNumero(1)->Caption();
+}
+
 // A wrong symbol leaves the buttons enabled: the child just tries another.
 void FormMM::Comando_Click(int index) {
     Rispondi(index == SimboloEsatto);

@@ -16,6 +16,8 @@ public:
     explicit FormMM(Program& app);
 
     QJsonObject fields() const override;
+    // The two numbers, and the sign between them once it is found.
+    QString TestoDomanda() const override;
 
 protected:
     void NuovaDomanda() override;

@@ -162,6 +162,13 @@ void FormOrd::Unload() {
     g.OrdinaConsegna = kDalMinore;
 }
 
+QString FormOrd::TestoDomanda() const {
+    QStringList numeri;
+    for (int i = 0; i < QuantiNumeri; ++i)
+        if (!ComandoNumero(i)->Caption().isEmpty()) numeri << ComandoNumero(i)->Caption();
+    return Caption() + QStringLiteral("\n") + numeri.join(QStringLiteral(", "));
+}
+
 QJsonObject FormOrd::fields() const {
     QJsonArray numeri, ordinati;
     for (int i = 0; i < 11; ++i) {

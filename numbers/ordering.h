@@ -17,6 +17,8 @@ public:
     explicit FormOrd(Program& app);
 
     QJsonObject fields() const override;
+    // The order asked, then the numbers still on their buttons.
+    QString TestoDomanda() const override;
     void Unload() override;
 
 protected:

@@ -25,7 +25,7 @@ target_compile_definitions(contarello PRIVATE CONTARELLO_DATA_FROM_BIN="${data_f
 # The modules call nothing of the C library by name, so the linker, which links only what is used,
 # leaves it out; named, it is always set up before a module's own start-up code runs.
 # (Handed to the linker itself: the compiler would move a plain -lc to the end.)
-foreach(module contarello_sound contarello_print)
+foreach(module ${CONTARELLO_MODULES})
     target_link_options(${module} PRIVATE LINKER:--push-state,--no-as-needed,-lc,--pop-state)
 endforeach()
 
@@ -43,7 +43,7 @@ endforeach()
 add_custom_target(packaging_docs ALL DEPENDS ${compressed})
 
 install(TARGETS contarello RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS contarello_sound contarello_print LIBRARY DESTINATION ${CONTARELLO_MODULEDIR})
+install(TARGETS ${CONTARELLO_MODULES} LIBRARY DESTINATION ${CONTARELLO_MODULEDIR})
 install(FILES ${SOUND_FILES} DESTINATION ${CONTARELLO_DATADIR}/suoni)
 install(FILES packaging/${CONTARELLO_ID}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/${CONTARELLO_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
@@ -71,6 +71,10 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://contarello.example.org)
 # the window system's plugin, the fonts the screens are laid out for, Qt's Italian texts.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, fonts-liberation2, qt6-translations-l10n")
+# The voice, off unless turned on, speaks through the speech service and its Italian voices; without
+# them the program installs and runs, silent.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "qt6-speech-speechd-plugin, speech-dispatcher, speech-dispatcher-espeak-ng")
 set(CPACK_STRIP_FILES ON)
 include(CPack)
 

@@ -7,6 +7,8 @@ PACKAGES=(
     g++ cmake make pkg-config
     qt6-base-dev qt6-multimedia-dev   # widgets, print support, test, sounds
     qt6-translations-l10n             # "Sì", "No", "Annulla" in Qt's own boxes
+    qt6-speech-dev qt6-declarative-dev  # the voice's module (the speech header includes a Qt Quick one)
+    qt6-speech-speechd-plugin speech-dispatcher speech-dispatcher-espeak-ng  # and its Italian voice, to hear it
     fonts-liberation2                 # the screens are laid out for Arial's metrics
     libfontconfig-dev                 # the program's own font configuration
     libbenchmark-dev                  # the benchmark

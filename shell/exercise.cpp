@@ -1,13 +1,21 @@
 #include "shell/exercise.h"
 #include "core/lang.h"
+#include "core/phrases.h"
 #include "shell/focus.h"
 #include "shell/keypad.h"
 #include "shell/pictures.h"
 #include "shell/program.h"
 
+#include <QKeyEvent>
 #include <limits>
 
 namespace contarello {
+
+namespace {
+// Where the screens write the question and its prompt.
+const QStringList kEtichetteDomanda = {QStringLiteral("EtichettaNumero"), QStringLiteral("EtNumero"),
+                                       QStringLiteral("Label3")};
+} // namespace
 
 QString FiltroCifre(const QString& text) {
     QString digits;
@@ -64,6 +72,7 @@ ExerciseForm::ExerciseForm(Program& program, Variante variante, int16_t numeroSc
 }
 
 void ExerciseForm::Load() {
+    DomandaCliccabile();
     // Choosing the option runs its click: the limit, a question, the panel hidden.
     if (options_.limiteA99 && OpzioneNumeroMassimo(8)) OpzioneNumeroMassimo(8)->setValue(true);
     switch (options_.setUp) {
@@ -103,6 +112,7 @@ void ExerciseForm::Imposta() {
 
 void ExerciseForm::ProssimaDomanda() {
     NuovaDomanda();
+    Annuncia(true);
     FuocoInizio();
 }
 
@@ -117,14 +127,65 @@ void ExerciseForm::FuocoInizio() {
         w && w->isVisible() && w->isEnabled() && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit")))
         return;
     if (!inizio_.empty() && FocusFirst(*this, inizio_)) return;
-    // The screen's own controls: not the counters, the faces, "avanti" or the limit panel.
+    // The screen's own controls: not the counters, the faces, "avanti", the limit panel or the
+    // question that says itself again.
     std::vector<Control*> propri;
     for (Control* c : controls()) {
         QWidget* w = c->widget();
-        if (w && w != BottoneAvanti && !(CorniceNumeroMassimo && CorniceNumeroMassimo->isAncestorOf(w)))
+        if (w && w != BottoneAvanti && !(CorniceNumeroMassimo && CorniceNumeroMassimo->isAncestorOf(w)) &&
+            !kEtichetteDomanda.contains(c->name()))
             propri.push_back(c);
     }
     FocusFirst(*this, propri);
+}
+
+QString ExerciseForm::TestoDomanda() const {
+    QStringList parti;
+    for (const QString& nome : kEtichetteDomanda)
+        if (auto* l = dynamic_cast<Label*>(find(nome)); l && !l->isHidden()) parti << l->Caption();
+    return parti.join(u'\n');
+}
+
+void ExerciseForm::Annuncia(bool nuova) {
+    if (!app.voce) return;
+    nuova_ = nuova_ || nuova;
+    if (std::exchange(annuncio_, true)) return;
+    // Said once the handler that changed the screen has finished: the whole question as it shows,
+    // once, however many steps made it.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            annuncio_ = false;
+            const QString frase = FraseDaDire(TestoDomanda());
+            if ((std::exchange(nuova_, false) || frase != detta_) && app.voce && !frase.isEmpty())
+                app.speech.say(frase);
+            detta_ = frase;
+        },
+        Qt::QueuedConnection);
+}
+
+void ExerciseForm::RipetiDomanda() {
+    detta_ = FraseDaDire(TestoDomanda());
+    if (app.voce && !detta_.isEmpty()) app.speech.say(detta_);
+}
+
+void ExerciseForm::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_F2 && e->modifiers() == Qt::NoModifier) {
+        RipetiDomanda();
+        e->accept();
+        return;
+    }
+    Form::keyPressEvent(e);
+}
+
+void ExerciseForm::DomandaCliccabile() {
+    // Only with the voice on: a label that answers a click is one more place for the keyboard to
+    // stop at, and without the voice it would do nothing.
+    if (!app.voce || std::exchange(cliccabile_, true)) return;
+    for (const QString& nome : kEtichetteDomanda)
+        if (auto* l = dynamic_cast<Label*>(find(nome));
+            l && !l->Click && !l->MouseDown && !l->DragDrop && l->DragMode() == 0)
+            l->Click = [this] { RipetiDomanda(); };
 }
 
 // "avanti" shows only where the main menu asked for the wait.
@@ -273,7 +334,7 @@ void ExerciseForm::AggiungiCorniceNumeroMassimo(const QString& menuName, const Q
                                           QStringLiteral("OpzioneNumeroMassimo"), limiti, 3,
                                           OpzioneNumeroMassimo, [this](int i) {
                                               g.NumeroMassimo = int16_t(19 + 10 * i);
-                                              NuovaDomanda();
+                                              ProssimaDomanda();
                                               CorniceNumeroMassimo->setVisible(false);
                                               FuocoInizio();
                                           });

@@ -5,6 +5,7 @@
 
 #include "shell/colori.h"
 #include "shell/form.h"
+#include "shell/program.h"
 
 namespace contarello {
 
@@ -102,9 +103,26 @@ public:
     Variante variante() const { return variante_; }
     int16_t numeroScheda() const { return numeroScheda_; }
 
+    // The question as the child sees it, in reading order, a line for each part: what the voice
+    // says of it. By default the question's label (EtichettaNumero or EtNumero) and the prompt
+    // (Label3), where the screen shows them.
+    virtual QString TestoDomanda() const;
+
 protected:
-    // Makes the next question.
+    // Makes the next question. The frame calls it through ProssimaDomanda, so that the voice says
+    // the new question and the focus goes where the child acts first (the answer box, or the
+    // material); a screen that starts a question of its own does the same.
     virtual void NuovaDomanda() = 0;
+    void ProssimaDomanda();
+    // With the voice on, says the question once the screen has finished showing it: a new question
+    // always, a question gone on to its next stage only when what it shows has changed.
+    void Annuncia(bool nuova = false);
+    // Says the question again, at once: F2, or a click on the question.
+    void RipetiDomanda();
+    // A cell or a tick that answers nothing says its number; a blank one says nothing.
+    void DiNumero(const QString& caption) { Parla(app, caption); }
+    // F2 reaches the screen from whatever control has the focus, since none of them takes it.
+    void keyPressEvent(QKeyEvent* e) override;
     // What the screen sets up of its own as it starts, after the counters and before the first
     // question.
     virtual void Prepara() {}
@@ -143,8 +161,6 @@ protected:
     // Where a child using the keyboard starts on a new question when there is no answer box: the
     // first of these the focus can reach. By default, the first of the screen's own controls.
     void SiComincia(std::vector<Control*> controlli) { inizio_ = std::move(controlli); }
-    // A new question, and the focus where the child acts first: the answer box, or the material.
-    void ProssimaDomanda();
     // The box the child writes the answer in, placed and named, its text judged by giusta on Enter
     // as the options say. After a wrong answer it has the focus back.
     TextBox* CasellaRisposta(const QString& name, const Rect& r, const QFont& font,
@@ -181,6 +197,8 @@ private:
     void Imposta();
     void MostraAvanti();
     void FuocoInizio();
+    // With the voice on, a click on the question's label or its prompt says it again.
+    void DomandaCliccabile();
 
     Variante variante_;
     int16_t numeroScheda_;
@@ -188,6 +206,10 @@ private:
     std::vector<QWidget*> risposta_;
     std::vector<Control*> inizio_;
     bool fuocoInSospeso_ = false;
+    QString detta_;         // what the voice last said of the question
+    bool annuncio_ = false; // the question is to be said once the screen is shown
+    bool nuova_ = false;    // ...as a new one, even if it reads as the last
+    bool cliccabile_ = false;
 };
 
 // The screens that ask a question in EtichettaNumero and take the answer typed in Text1 on Enter:

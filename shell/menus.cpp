@@ -4,6 +4,7 @@
 #include "shell/pictures.h"
 #include "shell/program.h"
 
+#include <QButtonGroup>
 #include <iterator>
 
 namespace contarello {
@@ -32,7 +33,7 @@ void FormAvvio::Load() {
 
 // ---- FormMenu ----
 
-FormMenu::FormMenu(Program& program) : Form(program, 8400, 7200) {
+FormMenu::FormMenu(Program& program) : Form(program, 8400, 7440) {
     const QFont f = Arial(15.75);
     auto* c2 = button(QStringLiteral("Command2"), QStringLiteral("Esercizi con supporto grafico"), 1080, 480,
                       6240, 855, f);
@@ -53,7 +54,22 @@ FormMenu::FormMenu(Program& program) : Form(program, 8400, 7200) {
     for (int i : {0, 1})
         Option1(i)->Click = [this, i] { g.AttendiBottone = i > 0 ? True : False; };
 
-    auto* c1 = button(QStringLiteral("Command1"), QStringLiteral("Esci"), 3300, 5160, 1800, 1215, f);
+    // A group of their own, so that choosing the voice leaves the choice above as it is.
+    auto* voce = new QButtonGroup(this);
+    const char* voci[] = {"voce spenta", "voce accesa"};
+    for (int i : {0, 1}) {
+        auto* o = option(indexed(QStringLiteral("OpzioneVoce"), i), QLatin1String(voci[i]), 1080 + 3240 * i,
+                         4920, 3000, 495, Arial(12));
+        voce->addButton(o);
+        // Turned on, the voice gets ready at once, while the adult is still at the menu.
+        o->Click = [this, i] {
+            app.voce = i > 0;
+            if (app.voce) app.speech.prepare();
+        };
+        OpzioneVoce.set(i, o);
+    }
+
+    auto* c1 = button(QStringLiteral("Command1"), QStringLiteral("Esci"), 3300, 5640, 1800, 1215, f);
     c1->setPicture(pictures::ManoAlzata());
     c1->Click = [this] { ChiediUscita(app); };
 }
@@ -63,9 +79,13 @@ void FormMenu::Load() {
         Option1(0)->setValue(true);
     else
         Option1(1)->setValue(true);
+    // Shown as it stands, without choosing it again.
+    OpzioneVoce(app.voce ? 1 : 0)->setChecked(true);
     CaricaColori(*this, Variante::A);
-    Option1(0)->setBackColor(BackColor());
-    Option1(1)->setBackColor(BackColor());
+    for (int i : {0, 1}) {
+        Option1(i)->setBackColor(BackColor());
+        OpzioneVoce(i)->setBackColor(BackColor());
+    }
 }
 
 void FormMenu::Command4_Click() {

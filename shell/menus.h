@@ -27,6 +27,8 @@ public:
 private:
     void Command4_Click();
     ControlArray<OptionButton> Option1;
+    // The voice, off or on for the run: a pair of options of their own beside the other pair.
+    ControlArray<OptionButton> OpzioneVoce;
 };
 
 // One button of an exercise menu: the control, its caption exactly, the screen it opens, and where

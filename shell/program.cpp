@@ -1,5 +1,6 @@
 #include "shell/program.h"
 #include "core/lang.h"
+#include "core/phrases.h"
 
 namespace contarello {
 
@@ -39,6 +40,12 @@ void SuonoErrato(Program& app) {
 
 void suona(Program& app) {
     app.sound.play(app.appPath + QStringLiteral("/suoni/si.wav"));
+}
+
+void Parla(Program& app, const QString& testo) {
+    if (!app.voce) return;
+    const QString frase = FraseDaDire(testo);
+    if (!frase.isEmpty()) app.speech.say(frase);
 }
 
 } // namespace contarello

@@ -26,6 +26,8 @@ struct Program {
     QString appPath;      // the program's folder, where suoni/ lies
     EventLog* log;        // nullptr in the real program
     bool lavagna = false; // the keypad under the screens: from the first touch, or from the start
+    // Whether the voice speaks: off unless an adult turns it on, for this run only.
+    bool voce = false;
     Navigator nav;
 };
 
@@ -42,5 +44,8 @@ void SuonoEsatto(Program& app);
 void SuonoErrato(Program& app);
 // The step sound of the screens that build an answer in stages.
 void suona(Program& app);
+// Says a text of a screen, its numbers and signs as words, when the voice is on; nothing for a text
+// with nothing to say.
+void Parla(Program& app, const QString& testo);
 
 } // namespace contarello

@@ -26,6 +26,7 @@ struct ProgramModule {
 };
 inline constexpr ProgramModule kSoundModule{"libcontarello_sound", "contarello_make_sound"};
 inline constexpr ProgramModule kPrintModule{"libcontarello_print", "contarello_default_printer"};
+inline constexpr ProgramModule kSpeechModule{"libcontarello_speech", "contarello_make_speech"};
 
 // The module's entry in moduleDir, or null when the module or its entry isn't there.
 QFunctionPointer ResolveModule(const QString& moduleDir, const ProgramModule& module);
