@@ -127,6 +127,11 @@ void ExerciseForm::FuocoInizio() {
         w && w->isVisible() && w->isEnabled() && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit")))
         return;
     if (!inizio_.empty() && FocusFirst(*this, inizio_)) return;
+    // A digit waiting to be placed comes before the places it can go.
+    std::vector<Control*> trascinabili;
+    for (Control* c : controls())
+        if (auto* l = dynamic_cast<Label*>(c); l && l->DragMode() == 1) trascinabili.push_back(c);
+    if (!Carried() && FocusFirst(*this, trascinabili)) return;
     // The screen's own controls: not the counters, the faces, "avanti", the limit panel or the
     // question that says itself again.
     std::vector<Control*> propri;
@@ -137,6 +142,17 @@ void ExerciseForm::FuocoInizio() {
             propri.push_back(c);
     }
     FocusFirst(*this, propri);
+}
+
+bool ExerciseForm::focusNextPrevChild(bool next) {
+    // The control the child was on went off with the step just made: the focus goes where the
+    // question goes on, not nowhere.
+    QWidget* w = focusWidget();
+    if (w && (!w->isEnabled() || !w->isVisible())) {
+        FuocoInizio();
+        if (focusWidget() != w) return true;
+    }
+    return Form::focusNextPrevChild(next);
 }
 
 QString ExerciseForm::TestoDomanda() const {

@@ -109,6 +109,7 @@ public:
     virtual QString TestoDomanda() const;
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     // Makes the next question. The frame calls it through ProssimaDomanda, so that the voice says
     // the new question and the focus goes where the child acts first (the answer box, or the
     // material); a screen that starts a question of its own does the same.

@@ -239,21 +239,10 @@ private:
         const bool text = typesText(w);
         switch (k) {
         case Qt::Key_Tab:
-        case Qt::Key_Backtab: {
-            const std::vector<Control*> order = FocusOrder(form);
-            if (order.empty()) return true;
-            const bool back = k == Qt::Key_Backtab || (e->modifiers() & Qt::ShiftModifier);
-            auto at = std::find(order.begin(), order.end(), c);
-            Control* next;
-            if (at == order.end())
-                next = back ? order.back() : order.front();
-            else if (back)
-                next = at == order.begin() ? order.back() : *(at - 1);
-            else
-                next = at + 1 == order.end() ? order.front() : *(at + 1);
-            moveFocus(form, next);
+        case Qt::Key_Backtab:
+            FocusNext(form, !(k == Qt::Key_Backtab || (e->modifiers() & Qt::ShiftModifier)));
+            setRingShown(form, true);
             return true;
-        }
         case Qt::Key_Left:
         case Qt::Key_Right:
         case Qt::Key_Up:
@@ -319,6 +308,22 @@ bool FocusFirst(Form& form, const std::vector<Control*>& among) {
             return true;
         }
     return false;
+}
+
+bool FocusNext(Form& form, bool next) {
+    const std::vector<Control*> order = FocusOrder(form);
+    if (order.empty()) return false;
+    auto at = std::find(order.begin(), order.end(), controlOf(form, form.focusWidget()));
+    Control* to;
+    if (at == order.end())
+        to = next ? order.front() : order.back();
+    else if (!next)
+        to = at == order.begin() ? order.back() : *(at - 1);
+    else
+        to = at + 1 == order.end() ? order.front() : *(at + 1);
+    to->widget()->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    if (FocusRing* r = ringOf(form)) r->follow();
+    return true;
 }
 
 bool RingShown(const Form& form) {

@@ -26,6 +26,10 @@ std::vector<Control*> FocusOrder(Form& form);
 // if there was one.
 bool FocusFirst(Form& form, const std::vector<Control*>& among);
 
+// The focus on the next control of FocusOrder after the one that has it (or the one before); false
+// when there is none to go to.
+bool FocusNext(Form& form, bool next);
+
 // Whether the focus ring shows on the screen: after a key moved the focus, until the mouse is used.
 bool RingShown(const Form& form);
 // Where the ring is drawn around the focused control, in the screen's pixels; empty when it doesn't

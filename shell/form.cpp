@@ -64,6 +64,10 @@ Form::Form(Program& program, int widthTwips, int heightTwips)
     TakeTouches(*this);
 }
 
+bool Form::focusNextPrevChild(bool next) {
+    return FocusNext(*this, next);
+}
+
 void Form::toggleFullScreen() {
     if (isFullScreen()) {
         showNormal();

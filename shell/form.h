@@ -101,6 +101,8 @@ protected:
     static QString indexed(const QString& name, int i) { return name + u'(' + QString::number(i) + u')'; }
 
     bool event(QEvent* e) override;
+    // Where the focus goes when the control that had it goes off: the next one a child can act on.
+    bool focusNextPrevChild(bool next) override;
     void resizeEvent(QResizeEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 

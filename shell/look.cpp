@@ -112,7 +112,7 @@ void Label::paintEvent(QPaintEvent* e) {
     // Picked up: it stands out of the screen, a thick dashed edge in the caption's colour round it.
     QPainter p(this);
     const QColor ink = palette().color(QPalette::WindowText);
-    const int w = std::max(2, int(std::lround(px(3))));
+    const int w = std::max(3, int(std::lround(px(5))));
     QPen pen(ink, w, Qt::DashLine);
     p.setPen(pen);
     p.drawRect(QRectF(rect()).adjusted(w / 2.0, w / 2.0, -w / 2.0, -w / 2.0));
