@@ -1,6 +1,8 @@
 #include "numbers/columns.h"
+
 #include "core/lang.h"
 #include "shell/program.h"
+#include <cstring>
 
 namespace contarello {
 
@@ -59,6 +61,10 @@ ColumnForm::ColumnForm(Program& program, const ColumnMember& member, Variante va
     }
     auto casella = [this](const char* name, int left, int top, QColor colour) {
         Label* l = label(QString::fromUtf8(name), QString(), left, top, 735, 615, Arial(24));
+        // Named for a screen reader as the child sees the place: the tens or units of a number.
+        l->setAccessibleName(QString::fromUtf8(name[1] == 'd' ? "decine" : "unità") +
+                             QString::fromUtf8(name[std::strlen(name) - 1] == '1' ? " del primo numero"
+                                                                                  : " del secondo numero"));
         l->setAlignment(Qt::AlignCenter);
         l->setFrameShape(QFrame::Box);
         l->setBackColor(Qt::white);

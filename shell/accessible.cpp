@@ -7,7 +7,7 @@ namespace contarello {
 
 namespace {
 
-// A label or a shape: a button when a child can act on it, else text or a picture.
+// A label, a shape or a button of ours: a button when a child can act on it, else text or a picture.
 class MaterialInterface : public QAccessibleWidget {
 public:
     MaterialInterface(QWidget* w, Control& c)
@@ -17,7 +17,8 @@ public:
           control_(c) {}
 
     QAccessible::Role role() const override {
-        if (Actionable(control_)) return control_.DragDrop ? QAccessible::Cell : QAccessible::Button;
+        if (Actionable(control_) || dynamic_cast<CommandButton*>(&control_))
+            return control_.DragDrop ? QAccessible::Cell : QAccessible::Button;
         return dynamic_cast<Label*>(&control_) ? QAccessible::StaticText : QAccessible::Graphic;
     }
 
@@ -25,12 +26,15 @@ public:
         if (t != QAccessible::Name) return QAccessibleWidget::text(t);
         if (auto* l = dynamic_cast<Label*>(&control_); l && !l->Caption().trimmed().isEmpty())
             return l->Caption().simplified();
+        if (auto* b = dynamic_cast<CommandButton*>(&control_); b && !b->Caption().trimmed().isEmpty())
+            return b->Caption().simplified();
         if (!widget()->accessibleName().isEmpty()) return widget()->accessibleName();
         if (auto* s = dynamic_cast<Shape*>(&control_))
             return s->ShapeKind() == Shape::Circle || s->ShapeKind() == Shape::Oval
                        ? QStringLiteral("pallina")
                        : QStringLiteral("forma");
-        return control_.DragDrop ? QStringLiteral("casella vuota") : QString();
+        if (!Actionable(control_)) return QString();
+        return control_.DragDrop ? QStringLiteral("casella vuota") : QStringLiteral("casella");
     }
 
     QStringList actionNames() const override {
@@ -44,12 +48,14 @@ private:
     Control& control_;
 };
 
-QAccessibleInterface* describe(const QString& className, QObject* object) {
-    if (className != QLatin1String("contarello::Label") && className != QLatin1String("contarello::Shape"))
-        return nullptr;
+// Asked first for the most derived class: a cell of the table of 100 is a button too. The other
+// controls are the toolkit's own and described by it.
+QAccessibleInterface* describe(const QString&, QObject* object) {
     auto* w = qobject_cast<QWidget*>(object);
-    auto* c = dynamic_cast<Control*>(object);
-    return w && c ? new MaterialInterface(w, *c) : nullptr;
+    if (!w || !(dynamic_cast<Label*>(object) || dynamic_cast<Shape*>(object) ||
+                dynamic_cast<CommandButton*>(object)))
+        return nullptr;
+    return new MaterialInterface(w, *dynamic_cast<Control*>(object));
 }
 
 } // namespace

@@ -282,6 +282,7 @@ TextBox* ExerciseForm::CasellaRisposta(const QString& name, const Rect& r, const
                                        std::function<bool(const QString&)> giusta, OpzioniCasella casella) {
     TextBox* box = textBox(name, r.left, r.top, r.width, r.height, font);
     box->setAlignment(Qt::AlignCenter);
+    box->setAccessibleName(QStringLiteral("risposta"));
     MarkAnswerBox(*box, casella.filtro == &FiltroMaiuscole);
     RispondeCon(box);
     auto invio = [this, box, giusta = std::move(giusta), passo = casella.passo] {

@@ -3,6 +3,7 @@
 
 #include "app/screens.h"
 #include "shell/colori.h"
+#include "shell/focus.h"
 #include "shell/form.h"
 #include "shell/program.h"
 #include "shell/qtservices.h"
@@ -62,6 +63,25 @@ int saturation(const QImage& im) {
     return most;
 }
 
+// The focus ring, once Tab has shown it: the middle of its band against what lies round the control.
+QStringList ringUnreadable(Harness& h, Form* form, const QString& where) {
+    h.run(R"J({"press": "Tab"})J");
+    const QRect r = RingRect(*form);
+    QWidget* w = form->focusWidget();
+    if (r.isEmpty() || !w)
+        return FocusOrder(*form).empty() ? QStringList() : QStringList{where + ": no ring"};
+    QColor ground = form->BackColor();
+    for (QWidget* p = w->parentWidget(); p && p != form; p = p->parentWidget())
+        if (p->autoFillBackground()) {
+            ground = p->palette().color(p->backgroundRole());
+            break;
+        }
+    const QColor ink = form->grab().toImage().pixelColor(r.center().x(), r.top() + RingWidth() / 2);
+    if (Contrasto(ink, ground) >= kContrastoMinimo) return {};
+    return {QStringLiteral("%1 ring round %2: %3 on %4")
+                .arg(where, w->objectName(), colourName(ink), colourName(ground))};
+}
+
 } // namespace
 
 class ReadableTest : public QObject {
@@ -71,7 +91,8 @@ class ReadableTest : public QObject {
         return h.engine.program().nav.find(name);
     }
 private slots:
-    // Every screen of the program at every colour its background can take.
+    // Every screen of the program at every colour its background can take, its captions and the
+    // ring round the focus.
     void captionsOnEveryBackground() {
         QStringList bad;
         for (const FormEntry& entry : FormTable()) {
@@ -86,6 +107,7 @@ private slots:
                 CaricaColori(*form, *v);
                 QCOMPARE(form->BackColor(), ColoreSlot(*v, slot));
                 bad << unreadable(form, QStringLiteral("%1 slot %2").arg(name).arg(slot));
+                bad << ringUnreadable(h, form, QStringLiteral("%1 slot %2").arg(name).arg(slot));
             }
         }
         QVERIFY2(bad.isEmpty(), qPrintable(bad.join(u'\n')));
