@@ -228,6 +228,19 @@ QJsonObject Monkey::pickAction(const QJsonObject& d) {
     } else if (r < 62) {
         const QString m = pickControl(d, {"menu"});
         if (!m.isEmpty()) return {{"menu", m}};
+    } else if (r < 70) {
+        // Keys to whatever has the focus, as a child with only a keyboard presses them.
+        static const char* const kKeys[] = {"Tab", "Shift+Tab", "Enter", "Space", "Escape", "Backspace",
+                                            "Delete",  "Menu", "Left",  "Right",  "Up",     "Down",
+                                            "F2",      "F10",  "7",     "A"};
+        return {{"press", kKeys[below(std::size(kKeys))]}, {"repeat", 1 + below(3)}};
+    } else if (r < 76) {
+        // A finger: a tap, a rest long or short, a slide from a label onto anything.
+        const QString c = pickControl(d, clickable + boxes);
+        if (!c.isEmpty() && r < 72) return {{"tap", c}};
+        if (!c.isEmpty() && r < 74) return {{"hold", c}, {"ms", 100 + below(1200)}};
+        const QString label = pickControl(d, {"label"}, true);
+        if (!label.isEmpty() && !c.isEmpty()) return {{"swipe", label}, {"to", c}};
     }
     const QString c = pickControl(d, clickable);
     if (!c.isEmpty()) return {{"click", c}};
