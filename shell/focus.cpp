@@ -14,8 +14,9 @@ namespace contarello {
 
 namespace {
 
-// The screens whose focus moved by a key, so that their ring shows.
-const char* const kRingProperty = "contarelloRing";
+// Whether a key has moved the focus since the mouse was last used: the ring then shows on every
+// screen, the next ones too, as a child at the keyboard goes through the program.
+bool gRingShown = false;
 const char* const kRingName = "contarelloFocusRing";
 
 QRect rectIn(const Form& form, QWidget* w) {
@@ -142,16 +143,18 @@ FocusRing* ringOf(const Form& form) {
         form.findChild<QWidget*>(QLatin1String(kRingName), Qt::FindDirectChildrenOnly));
 }
 
-void setRingShown(Form& form, bool on) {
-    if (form.property(kRingProperty).toBool() == on) return;
-    form.setProperty(kRingProperty, on);
-    if (FocusRing* r = ringOf(form)) r->follow();
+void setRingShown(bool on) {
+    if (gRingShown == on) return;
+    gRingShown = on;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* form = qobject_cast<Form*>(w))
+            if (FocusRing* r = ringOf(*form)) r->follow();
 }
 
 void moveFocus(Form& form, Control* to) {
     if (!to) return;
     to->widget()->setFocus(Qt::TabFocusReason);
-    setRingShown(form, true);
+    setRingShown(true);
     if (FocusRing* r = ringOf(form)) r->follow();
 }
 
@@ -218,7 +221,7 @@ public:
         }
         if (t == QEvent::MouseButtonPress) {
             // A child back at the mouse sees the screen as the mouse shows it.
-            if (e->spontaneous()) setRingShown(*form, false);
+            if (e->spontaneous()) setRingShown(false);
             // A click anywhere but on a place for it puts back the label picked up.
             Control* c = controlOf(*form, w);
             if (Carried() && w != Carried() && !(c && c->DragDrop)) PickUp(nullptr);
@@ -241,7 +244,7 @@ private:
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
             FocusNext(form, !(k == Qt::Key_Backtab || (e->modifiers() & Qt::ShiftModifier)));
-            setRingShown(form, true);
+            setRingShown(true);
             return true;
         case Qt::Key_Left:
         case Qt::Key_Right:
@@ -327,7 +330,8 @@ bool FocusNext(Form& form, bool next) {
 }
 
 bool RingShown(const Form& form) {
-    return form.property(kRingProperty).toBool();
+    Q_UNUSED(form);
+    return gRingShown;
 }
 
 int RingWidth() {

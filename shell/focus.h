@@ -30,7 +30,8 @@ bool FocusFirst(Form& form, const std::vector<Control*>& among);
 // when there is none to go to.
 bool FocusNext(Form& form, bool next);
 
-// Whether the focus ring shows on the screen: after a key moved the focus, until the mouse is used.
+// Whether the focus ring shows: from the moment a key moves the focus, on this screen and the next
+// ones, until the mouse is used again.
 bool RingShown(const Form& form);
 // Where the ring is drawn around the focused control, in the screen's pixels; empty when it doesn't
 // show. The ring's inner edge touches the control, its width is RingWidth.
