@@ -210,6 +210,8 @@ private:
     void lift(QPoint at) {
         const Finger f = finger_;
         forget();
+        // A tap on nothing a finger acts on puts back the digit picked up, as a click there does.
+        if (!f.hit.widget && !f.sliding) PickUp(nullptr);
         if (f.held || !f.hit.widget) return;
         if (f.sliding) {
             if (Draggable(f.hit.control)) {
