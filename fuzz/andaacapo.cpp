@@ -1,8 +1,8 @@
 // AndaACapo on any text and width: it only adds line ends. Without its CR and LF the result is the
 // trimmed text without them, and it always ends in CR LF.
 
-#include "fuzz/check.h"
 #include "core/lang.h"
+#include "fuzz/check.h"
 #include "worksheets/generators/generators.h"
 
 using namespace contarello;

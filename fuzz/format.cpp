@@ -1,8 +1,8 @@
 // Format of any double: digits in groups of three with points, a minus only in front, and the
 // number it stands for is the double rounded and held in range, as Int holds it.
 
-#include "fuzz/check.h"
 #include "core/lang.h"
+#include "fuzz/check.h"
 
 #include <cmath>
 #include <limits>

@@ -2,8 +2,8 @@
 // word with no blank, the number used up, the same words for the same number, and a new number for
 // each new word below a thousand.
 
-#include "fuzz/check.h"
 #include "core/numberwords.h"
+#include "fuzz/check.h"
 
 using namespace contarello;
 using namespace contarello::fuzz;

@@ -1,8 +1,8 @@
 // Str of any long long: a blank or a minus in front, then digits only, and Val reads the number
 // back; Int gives it back whole wherever a double holds it exactly.
 
-#include "fuzz/check.h"
 #include "core/lang.h"
+#include "fuzz/check.h"
 
 using namespace contarello;
 using namespace contarello::fuzz;

@@ -1,8 +1,8 @@
 // Val on any text: never NaN, blanks in front change nothing, and what follows the number doesn't
 // count. A sign is read only at the start, so the text after it is tried with a letter after it.
 
-#include "fuzz/check.h"
 #include "core/lang.h"
+#include "fuzz/check.h"
 
 #include <cmath>
 

@@ -230,9 +230,9 @@ QJsonObject Monkey::pickAction(const QJsonObject& d) {
         if (!m.isEmpty()) return {{"menu", m}};
     } else if (r < 70) {
         // Keys to whatever has the focus, as a child with only a keyboard presses them.
-        static const char* const kKeys[] = {"Tab", "Shift+Tab", "Enter", "Space", "Escape", "Backspace",
-                                            "Delete",  "Menu", "Left",  "Right",  "Up",     "Down",
-                                            "F2",      "F10",  "7",     "A"};
+        static const char* const kKeys[] = {"Tab",    "Shift+Tab", "Enter", "Space", "Escape", "Backspace",
+                                            "Delete", "Menu",      "Left",  "Right", "Up",     "Down",
+                                            "F2",     "F10",       "7",     "A"};
         return {{"press", kKeys[below(std::size(kKeys))]}, {"repeat", 1 + below(3)}};
     } else if (r < 76) {
         // A finger: a tap, a rest long or short, a slide from a label onto anything.
