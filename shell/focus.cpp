@@ -189,9 +189,34 @@ Control* nearest(Form& form, QWidget* from, int key) {
 }
 
 // F10: the first item of the menu bar lit, the arrows walk the bar and its menus, Enter chooses.
+// Back from the menu bar: to the control the child left, if it can still be reached; else, as
+// when the item chosen opened a panel over the screen, to the choice in force there or its first.
+void backFromMenuBar(Form& form, QWidget* before) {
+    const std::vector<Control*> order = FocusOrder(form);
+    Control* to = nullptr;
+    for (Control* c : order)
+        if (c->widget() == before) to = c;
+    for (Control* c : order)
+        if (auto* o = dynamic_cast<OptionButton*>(c); !to && o && o->isChecked()) to = c;
+    if (!to && !order.empty()) to = order.front();
+    if (to) moveFocus(form, to);
+}
+
+// Where the focus was when F10 opened the menu bar.
+QPointer<QWidget> gBeforeMenu;
+
 void openMenuBar(Form& form) {
     auto* bar = form.findChild<QMenuBar*>();
     if (!bar || !bar->isVisible()) return;
+    gBeforeMenu = form.focusWidget();
+    // The item chosen does its work (a panel shown, a box answered), then the keyboard is back on
+    // the screen.
+    auto* back = new QObject(bar);
+    QObject::connect(bar, &QMenuBar::triggered, back, [&form, back] {
+        back->deleteLater();
+        QMetaObject::invokeMethod(
+            &form, [&form] { backFromMenuBar(form, gBeforeMenu); }, Qt::QueuedConnection);
+    });
     for (QAction* a : bar->actions())
         if (a->isVisible() && a->isEnabled()) {
             bar->setFocus(Qt::MenuBarFocusReason);
@@ -231,7 +256,14 @@ public:
         QWidget* focus = form->focusWidget();
         if (w != (focus ? focus : form)) return false;
         Control* c = controlOf(*form, w);
-        if (!c && w != form && w != form->client()) return false; // the menu bar walks itself
+        if (auto* bar = qobject_cast<QMenuBar*>(w)) {
+            // Escape leaves the bar for the screen; the rest the bar walks itself.
+            if (static_cast<QKeyEvent*>(e)->key() != Qt::Key_Escape) return false;
+            bar->setActiveAction(nullptr);
+            backFromMenuBar(*form, gBeforeMenu);
+            return true;
+        }
+        if (!c && w != form && w != form->client()) return false;
         return key(*form, w, c, static_cast<QKeyEvent*>(e));
     }
 

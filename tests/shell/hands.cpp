@@ -304,6 +304,27 @@ private slots:
         const bool scheda = QString(QTest::currentDataTag()).endsWith("formStampa");
         QCOMPARE(std::pair(t->global("Esatti"), t->global("Errati")), std::pair(int(!scheda), 0));
     }
+
+    // The menu bar and the panel it opens from the keyboard: the focus on the choice in force, an
+    // arrow that reaches another choice doesn't make it, Enter does; then back to the answer box,
+    // as Escape on the bar goes back too.
+    void menuAndPanel() {
+        Tasti t;
+        t.run(R"({"show": "FormScri"})");
+        t.menu("mnuNumeroMassimo");
+        QCOMPARE(t.focus(), "OpzioneNumeroMassimo(8)");
+        t.press("Up");
+        QCOMPARE(t.focus(), "OpzioneNumeroMassimo(7)");
+        QCOMPARE(t.global("NumeroMassimo"), 99);
+        t.press("Enter");
+        QCOMPARE(t.global("NumeroMassimo"), 89);
+        QVERIFY(!t.visible("CorniceNumeroMassimo"));
+        QCOMPARE(t.focus(), "Text1");
+        t.press("F10");
+        QVERIFY(t.focus() != "Text1");
+        t.press("Escape");
+        QCOMPARE(t.focus(), "Text1");
+    }
 };
 
 QTEST_MAIN(HandsTest)
