@@ -343,13 +343,7 @@ QJsonObject DriverEngine::act(const QString& verb, const QJsonObject& cmd) {
     QWidget* w = c->widget();
     if (verb == u"mousedown") {
         if (!w) return fail(QStringLiteral("a menu item takes no mouse button"));
-        const Qt::MouseButton b = qtButton(cmd.value(QStringLiteral("button")).toInt(1));
-        const QPointF at = QRectF(w->rect()).center();
-        QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), b, b, Qt::NoModifier);
-        QCoreApplication::sendEvent(w, &press);
-        QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), b, Qt::NoButton,
-                            Qt::NoModifier);
-        if (app_->nav.find(form->name()) == form) QCoreApplication::sendEvent(w, &release);
+        PressAndRelease(w, qtButton(cmd.value(QStringLiteral("button")).toInt(1)));
         return ok();
     }
     if (verb == u"type" || verb == u"key") {

@@ -144,6 +144,21 @@ void PickUp(Label* label) {
     if (label) label->update();
 }
 
+void PressAndRelease(QWidget* w, Qt::MouseButton button, std::optional<QPointF> at) {
+    const QPointF p = at.value_or(QRectF(w->rect()).center());
+    QPointer<QWidget> still(w);
+    QMouseEvent press(QEvent::MouseButtonPress, p, w->mapToGlobal(p), button, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &press);
+    if (!still || !still->isVisible()) return;
+    QMouseEvent release(QEvent::MouseButtonRelease, p, w->mapToGlobal(p), button, Qt::NoButton,
+                        Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &release);
+}
+
+bool TakesTyping(const QWidget* w) {
+    return w && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit"));
+}
+
 bool Actionable(Control& c) {
     QWidget* w = c.widget();
     if (!w || !w->isVisible() || !w->isEnabled()) return false;

@@ -20,6 +20,7 @@
 #include <cmath>
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 class QMimeData;
@@ -383,6 +384,14 @@ class Label;
 Label* Carried();
 // Picks the label up, or puts back the one carried with nullptr.
 void PickUp(Label* label);
+
+// A mouse button pressed and released at a point of the widget (its middle by default), through its
+// own mouse handling: what the keyboard's Enter, a finger's tap and the driver give a control. No
+// release when the press took the widget away.
+void PressAndRelease(QWidget* w, Qt::MouseButton button, std::optional<QPointF> at = std::nullopt);
+
+// Whether the widget takes typing: a text box, of one line or several.
+bool TakesTyping(const QWidget* w);
 
 // Whether a child can act on the control as it stands now: shown, enabled, and a button, an option,
 // a text box that takes typing, or a label or shape that takes a click or a mouse button, can be

@@ -123,9 +123,7 @@ void ExerciseForm::FuocoInizio() {
         return;
     }
     fuocoInSospeso_ = false;
-    if (QWidget* w = focusWidget();
-        w && w->isVisible() && w->isEnabled() && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit")))
-        return;
+    if (QWidget* w = focusWidget(); w && w->isVisible() && w->isEnabled() && TakesTyping(w)) return;
     if (!inizio_.empty() && FocusFirst(*this, inizio_)) return;
     // A digit waiting to be placed comes before the places it can go.
     std::vector<Control*> trascinabili;

@@ -62,21 +62,6 @@ Control* controlOf(Form& form, QWidget* w) {
     return nullptr;
 }
 
-bool typesText(QWidget* w) {
-    return w && (w->inherits("QLineEdit") || w->inherits("QPlainTextEdit"));
-}
-
-// A mouse button pressed and released in the middle of the control, through its own mouse handling.
-void pressButton(QWidget* w, Qt::MouseButton b) {
-    const QPointF at = QRectF(w->rect()).center();
-    QPointer<QWidget> still(w);
-    QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), b, b, Qt::NoModifier);
-    QCoreApplication::sendEvent(w, &press);
-    if (!still || !still->isVisible()) return;
-    QMouseEvent release(QEvent::MouseButtonRelease, at, w->mapToGlobal(at), b, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(w, &release);
-}
-
 // The ring drawn over the whole screen, around whatever control has the focus.
 class FocusRing : public QWidget {
 public:
@@ -271,7 +256,7 @@ private:
     bool key(Form& form, QWidget* w, Control* c, QKeyEvent* e) {
         if (e->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
         const int k = e->key();
-        const bool text = typesText(w);
+        const bool text = TakesTyping(w);
         switch (k) {
         case Qt::Key_Tab:
         case Qt::Key_Backtab:
@@ -292,12 +277,12 @@ private:
         case Qt::Key_Enter:
         case Qt::Key_Space:
             if (text || !c) return false;
-            if (!e->isAutoRepeat()) pressButton(w, Qt::LeftButton);
+            if (!e->isAutoRepeat()) PressAndRelease(w, Qt::LeftButton);
             return true;
         case Qt::Key_Delete:
         case Qt::Key_Menu:
             if (text || !c) return false;
-            if (!e->isAutoRepeat()) pressButton(w, Qt::RightButton);
+            if (!e->isAutoRepeat()) PressAndRelease(w, Qt::RightButton);
             return true;
         case Qt::Key_Escape:
             if (!Carried()) return false;

@@ -49,14 +49,7 @@ void Click(QWidget* w, QPoint local, Qt::MouseButton button) {
                 f->setFocus(Qt::MouseFocusReason);
                 break;
             }
-    if (!guard) return;
-    const QPointF at(local);
-    QMouseEvent press(QEvent::MouseButtonPress, at, w->mapToGlobal(at), button, button, Qt::NoModifier);
-    QCoreApplication::sendEvent(w, &press);
-    if (!guard) return;
-    QMouseEvent release(QEvent::MouseButtonRelease, at, guard->mapToGlobal(at), button, Qt::NoButton,
-                        Qt::NoModifier);
-    QCoreApplication::sendEvent(guard, &release);
+    if (guard) PressAndRelease(w, button, QPointF(local));
 }
 
 // The ring that fills while a finger rests: white under a dark blue arc, readable on every colour.
